@@ -10,14 +10,14 @@
 namespace vantrel::platform {
 
 class AVService {
- public:
+  public:
     // Takes over the one reference that `service` carries.
     AVService(Registry& registry, const void* service)
         : service_(service, [&registry](const void* owned) { registry.releaseService(owned); }) {}
 
     const void* get() const { return service_.get(); }
 
- private:
+  private:
     std::shared_ptr<const void> service_;
 };
 

@@ -25,7 +25,7 @@ struct TransferTable {
 };
 
 class DisplayServices {
- public:
+  public:
     // A configuration transaction in progress, as the private display-enable
     // function takes it. Ends with completeConfiguration or cancelConfiguration.
     using Configuration = void*;

@@ -10,7 +10,7 @@
 namespace vantrel::platform {
 
 class Localizer {
- public:
+  public:
     virtual ~Localizer() = default;
     virtual std::string shown(const text::Text&) = 0;
 };

@@ -11,7 +11,7 @@ namespace vantrel::platform {
 enum class LogLevel { debug, info, standard, error, fault };
 
 class LogSink {
- public:
+  public:
     virtual ~LogSink() = default;
     virtual void write(std::string_view subsystem, std::string_view category, LogLevel level,
                        std::string_view text) = 0;

@@ -22,7 +22,7 @@ struct PropertyValue : std::variant<std::monostate, std::string, std::int64_t, P
 };
 
 class RegistryEntry {
- public:
+  public:
     virtual ~RegistryEntry() = default;
     // The bytes of the 128-byte name buffer up to the first NUL; any bytes.
     virtual std::string name() = 0;
@@ -33,14 +33,14 @@ class RegistryEntry {
 };
 
 class RegistryIterator {
- public:
+  public:
     virtual ~RegistryIterator() = default;
     // The next entry, or null at the end.
     virtual std::unique_ptr<RegistryEntry> next() = 0;
 };
 
 class Registry {
- public:
+  public:
     virtual ~Registry() = default;
     // A recursive walk over the "IOService" plane, or null when there is none.
     virtual std::unique_ptr<RegistryIterator> iterateServicePlane() = 0;

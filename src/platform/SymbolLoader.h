@@ -7,7 +7,7 @@
 namespace vantrel::platform {
 
 class SymbolLoader {
- public:
+  public:
     virtual ~SymbolLoader() = default;
     // Opens the library with lazy binding; null when it can't be opened. A
     // library that opened stays open.

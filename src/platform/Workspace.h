@@ -7,7 +7,7 @@
 namespace vantrel::platform {
 
 class Workspace {
- public:
+  public:
     virtual ~Workspace() = default;
     // Called on the main thread each time the computer has woken from sleep,
     // for the life of the process.

@@ -1,0 +1,84 @@
+#include "runtime/RealScheduler.h"
+
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+#include <utility>
+
+namespace vantrel::runtime {
+namespace {
+
+std::chrono::steady_clock::time_point steady(MonotonicTime time) {
+    return std::chrono::steady_clock::time_point(
+        std::chrono::duration_cast<std::chrono::steady_clock::duration>(time.time_since_epoch()));
+}
+
+class RealGate : public Gate {
+  public:
+    void open() override {
+        {
+            const std::lock_guard lock(mutex_);
+            open_ = true;
+        }
+        changed_.notify_one();
+    }
+
+    Wake wait(std::optional<MonotonicTime> deadline) override {
+        std::unique_lock lock(mutex_);
+        const auto isOpen = [this] { return open_; };
+        if (deadline) {
+            if (!changed_.wait_until(lock, steady(*deadline), isOpen)) return Wake::deadline;
+        } else {
+            changed_.wait(lock, isOpen);
+        }
+        open_ = false;
+        return Wake::opened;
+    }
+
+  private:
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    bool open_ = false;
+};
+
+}  // namespace
+
+struct RealScheduler::Running {
+    std::atomic<bool> ended = false;
+    std::thread thread;
+};
+
+MonotonicTime RealScheduler::now() const {
+    return MonotonicTime(std::chrono::steady_clock::now().time_since_epoch());
+}
+
+WallTime RealScheduler::wallNow() const {
+    return std::chrono::time_point_cast<std::chrono::microseconds>(std::chrono::system_clock::now());
+}
+
+void RealScheduler::sleepFor(MonotonicClock::duration duration) { std::this_thread::sleep_for(duration); }
+
+std::unique_ptr<Gate> RealScheduler::makeGate() { return std::make_unique<RealGate>(); }
+
+void RealScheduler::startThread(std::string, QualityOfService, std::function<void()> body) {
+    // Threads end when their monitors go; joining the ended ones here keeps a
+    // day of hot-plugging from piling them up.
+    std::erase_if(threads_, [](const std::shared_ptr<Running>& running) {
+        if (!running->ended) return false;
+        running->thread.join();
+        return true;
+    });
+    auto running = std::make_shared<Running>();
+    running->thread = std::thread([running = running.get(), body = std::move(body)] {
+        body();
+        running->ended = true;
+    });
+    threads_.push_back(std::move(running));
+}
+
+void RealScheduler::finishThreads() {
+    for (const auto& running : threads_) running->thread.join();
+    threads_.clear();
+}
+
+}  // namespace vantrel::runtime

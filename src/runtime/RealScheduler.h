@@ -1,0 +1,30 @@
+// Time and threads as the computer has them.
+#pragma once
+
+#include <thread>
+#include <vector>
+
+#include "runtime/Scheduler.h"
+
+namespace vantrel::runtime {
+
+class RealScheduler : public Scheduler {
+  public:
+    RealScheduler() = default;
+    RealScheduler(const RealScheduler&) = delete;
+    RealScheduler& operator=(const RealScheduler&) = delete;
+    ~RealScheduler() override { finishThreads(); }
+
+    MonotonicTime now() const override;
+    WallTime wallNow() const override;
+    void sleepFor(MonotonicClock::duration duration) override;
+    std::unique_ptr<Gate> makeGate() override;
+    void startThread(std::string name, QualityOfService, std::function<void()> body) override;
+    void finishThreads() override;
+
+  private:
+    struct Running;
+    std::vector<std::shared_ptr<Running>> threads_;
+};
+
+}  // namespace vantrel::runtime
