@@ -13,7 +13,7 @@
 namespace vantrel::text {
 
 class Text {
- public:
+  public:
     // Shown as it stands.
     static Text verbatim(std::string text);
     // Looked up under `key`; each "%@" of the translation takes the next argument.
@@ -30,7 +30,7 @@ class Text {
 
     bool operator==(const Text&) const = default;
 
- private:
+  private:
     Text(std::string key, std::vector<std::string> arguments, bool isVerbatim);
 
     std::string key_;
