@@ -1,0 +1,25 @@
+#include "mccs/MonitorCapabilities.h"
+
+#include <utility>
+
+#include "mccs/CapabilitiesSection.h"
+#include "mccs/VCPSectionReader.h"
+
+namespace vantrel::mccs {
+
+std::optional<MonitorCapabilities> MonitorCapabilities::parse(std::string_view text) {
+    const std::optional<std::string_view> model = capabilitiesSection("model", text);
+    const std::optional<std::string_view> vcp = capabilitiesSection("vcp", text);
+    if (!vcp) return std::nullopt;
+    VCPSectionReader reader;
+    reader.read(*vcp);
+    if (reader.codes().empty()) return std::nullopt;
+    return MonitorCapabilities{
+        .raw = std::string(text),
+        .model = model ? std::optional<std::string>(*model) : std::nullopt,
+        .codes = std::move(reader).takeCodes(),
+        .values = std::move(reader).takeValues(),
+    };
+}
+
+}  // namespace vantrel::mccs
