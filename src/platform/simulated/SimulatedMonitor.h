@@ -60,6 +60,8 @@ class SimulatedMonitor {
     // Nothing for a monitor without inputs.
     std::optional<std::uint16_t> shownInput() const;
     bool isOnBus(runtime::MonotonicTime now) const;
+    // Whether an AV service handle stops working at a reconfiguration.
+    bool handlesGoStale() const;
 
     MonitorCounters counters() const;
     // Keeps every transfer from now on, for trace().

@@ -65,6 +65,11 @@ bool SimulatedMonitor::isOnBus(runtime::MonotonicTime now) const {
     return !inputs_ || inputs_->isOnBus(now);
 }
 
+bool SimulatedMonitor::handlesGoStale() const {
+    const std::lock_guard lock(mutex_);
+    return personality_.staleAfterReconfiguration;
+}
+
 MonitorCounters SimulatedMonitor::counters() const {
     const std::lock_guard lock(mutex_);
     return counters_;
