@@ -17,13 +17,13 @@ using Values = std::map<std::uint8_t, std::vector<std::uint16_t>>;
 Codes codes(std::string_view contents) {
     VCPSectionReader reader;
     reader.read(contents);
-    return std::move(reader).takeCodes();
+    return reader.codes();
 }
 
 Values values(std::string_view contents) {
     VCPSectionReader reader;
     reader.read(contents);
-    return std::move(reader).takeValues();
+    return reader.values();
 }
 
 TEST(VCPSectionReader, ReadsCodesAndTheirValues) {
