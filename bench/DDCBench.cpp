@@ -21,6 +21,7 @@ constexpr auto readPauses = 60ms;
 constexpr auto fragmentPause = 50ms;
 constexpr std::size_t fragmentSize = 32;
 constexpr std::size_t capabilitiesSize = 400;
+constexpr std::uint8_t codes[] = {0x10, 0x12, 0x62};
 
 class Silence : public platform::LogSink {
   public:
@@ -36,7 +37,7 @@ std::string capabilitiesOfSize(std::size_t size) {
 
 simulated::Desk deskWithOneGoodMonitor() {
     simulated::MonitorPlan monitor;
-    for (const std::uint8_t code : {0x10, 0x12, 0x62}) monitor.features[code] = {0, 50, 100, false};
+    for (const std::uint8_t code : codes) monitor.features[code] = {0, 50, 100, false};
     monitor.capabilities = capabilitiesOfSize(capabilitiesSize);
     simulated::DisplayPlan display;
     display.id = 2;
@@ -121,7 +122,6 @@ void transfersOfManyWrites(benchmark::State& state) {
             ddc::DDCWorker worker(rig.scheduler, rig.loop, rig.channel(), "2");
             worker.write(0x10, 1);
             std::this_thread::sleep_for(20ms);  // into the first transfer
-            constexpr std::uint8_t codes[] = {0x10, 0x12, 0x62};
             for (unsigned i = 0; i < 10'000; ++i)
                 worker.write(codes[i % 3], static_cast<std::uint16_t>(i % 100));
         }
