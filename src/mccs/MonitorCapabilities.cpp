@@ -1,7 +1,5 @@
 #include "mccs/MonitorCapabilities.h"
 
-#include <utility>
-
 #include "mccs/CapabilitiesSection.h"
 #include "mccs/VCPSectionReader.h"
 
@@ -17,8 +15,8 @@ std::optional<MonitorCapabilities> MonitorCapabilities::parse(std::string_view t
     return MonitorCapabilities{
         .raw = std::string(text),
         .model = model ? std::optional<std::string>(*model) : std::nullopt,
-        .codes = std::move(reader).takeCodes(),
-        .values = std::move(reader).takeValues(),
+        .codes = reader.codes(),
+        .values = reader.values(),
     };
 }
 

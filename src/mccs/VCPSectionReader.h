@@ -8,7 +8,6 @@
 #include <map>
 #include <optional>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "mccs/HexToken.h"
@@ -21,8 +20,7 @@ class VCPSectionReader {
     void read(std::string_view contents);
 
     const std::vector<std::uint8_t>& codes() const { return codes_; }
-    std::vector<std::uint8_t> takeCodes() && { return std::move(codes_); }
-    std::map<std::uint8_t, std::vector<std::uint16_t>> takeValues() && { return std::move(values_); }
+    const std::map<std::uint8_t, std::vector<std::uint16_t>>& values() const { return values_; }
 
   private:
     void readCharacter(text::GraphemeCluster character);

@@ -10,11 +10,7 @@ std::size_t GraphemeClusters::firstLengthByProperties(std::string_view text) {
     if (text.empty()) return 0;
     CodePoint last = CodePoint::first(text);
     std::size_t length = last.length;
-    // The state knows of a code point only after it has been the second of a
-    // pair: without this, flags and joined emoji would lose their first one.
-    constexpr utf8proc_int32_t startOfText = '\n';
     utf8proc_int32_t state = 0;
-    utf8proc_grapheme_break_stateful(startOfText, static_cast<utf8proc_int32_t>(last.value), &state);
     while (length < text.size()) {
         const CodePoint next = CodePoint::first(text.substr(length));
         if (utf8proc_grapheme_break_stateful(static_cast<utf8proc_int32_t>(last.value),

@@ -52,7 +52,7 @@ struct DisplayPlan {
     std::uint32_t serial = 0;
     // The screen's name, and the registry's product name unless it says otherwise.
     std::string name;
-    // Nothing: made from vendor, product and serial.
+    // Nothing: made from vendor and product, as edidUUID() does it.
     std::optional<std::string> edidUUID;
     // Pixels.
     unsigned width = 1920;

@@ -1,0 +1,17 @@
+#include "platform/simulated/DeskFileError.h"
+
+#include <algorithm>
+
+namespace vantrel::simulated {
+
+std::string DeskFileError::line() const {
+    std::string result = file + ": " + (place.empty() ? "" : place + ": ") + reason;
+    // A file's name may hold line breaks.
+    std::replace_if(
+        result.begin(), result.end(),
+        [](char character) { return static_cast<unsigned char>(character) < 0x20 || character == 0x7F; },
+        '?');
+    return result;
+}
+
+}  // namespace vantrel::simulated

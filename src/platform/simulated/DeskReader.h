@@ -1,0 +1,16 @@
+// A whole desk from the root of a JSON tree. Mistakes go to the place; after
+// one the desk is not usable.
+#pragma once
+
+#include <vector>
+
+#include "platform/simulated/Desk.h"
+#include "platform/simulated/DeskFile.h"
+#include "platform/simulated/JSONPlace.h"
+
+namespace vantrel::simulated {
+
+Desk readDesk(const JSONPlace& root);
+std::vector<DeskFile::Words> deskVocabulary();
+
+}  // namespace vantrel::simulated

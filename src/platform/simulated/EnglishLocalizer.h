@@ -1,0 +1,13 @@
+// A user who reads English.
+#pragma once
+
+#include "platform/Localizer.h"
+
+namespace vantrel::simulated {
+
+class EnglishLocalizer : public platform::Localizer {
+  public:
+    std::string shown(const text::Text& text) override { return text.english(); }
+};
+
+}  // namespace vantrel::simulated

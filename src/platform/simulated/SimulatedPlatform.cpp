@@ -1,0 +1,31 @@
+#include "platform/simulated/SimulatedPlatform.h"
+
+#include <utility>
+
+#include "runtime/Fatal.h"
+
+namespace vantrel::simulated {
+
+SimulatedPlatform::SimulatedPlatform(Desk desk, runtime::Scheduler& scheduler, runtime::MainLoop& mainLoop)
+    : scheduler_(scheduler),
+      mainLoop_(mainLoop),
+      world_(std::move(desk), scheduler, mainLoop),
+      displays_(world_),
+      services_(world_),
+      registry_(world_, services_),
+      libraries_(world_, displays_, services_),
+      functions_(libraries_),
+      workspace_(world_) {}
+
+platform::Platform SimulatedPlatform::platform(platform::LogSink& sink) {
+    return {scheduler_, mainLoop_,  displays_,  registry_,
+            functions_, workspace_, localizer_, platform::Log(sink)};
+}
+
+SimulatedMonitor& SimulatedPlatform::monitor(platform::DisplayID display) {
+    SimulatedMonitor* monitor = world_.monitor(display);
+    runtime::require(monitor != nullptr, "a display without a monitor that speaks DDC/CI");
+    return *monitor;
+}
+
+}  // namespace vantrel::simulated

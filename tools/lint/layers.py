@@ -1,0 +1,90 @@
+"""Includes agree with the rooms' LINKS lists in src/CMakeLists.txt.
+
+A room may include itself and what it links, directly or through another room.
+Only src/app and the tests may name the simulated platform."""
+
+import posixpath
+import re
+
+import cpp
+from tree import Finding
+
+ROOMS = "src/CMakeLists.txt"
+# Rooms that choose the implementation of the platform, and that implementation.
+APPLICATION = "src/app"
+SIMULATED = "src/platform/simulated"
+
+# What a library of the system is included as, and what has to be linked for it.
+LIBRARIES = {
+    "nlohmann/": "nlohmann_json::nlohmann_json",
+    "CLI/": "CLI11::CLI11",
+    "utf8proc.h": "PkgConfig::utf8proc",
+    "gtest/": None,
+    "gmock/": None,
+    "benchmark/": None,
+}
+
+
+def rooms(cmake):
+    """folder -> what it links, from the vantrel_room(...) calls."""
+    found = {}
+    for call in re.finditer(r"^\s*vantrel_room\(([^)]*)\)", cmake, re.MULTILINE):
+        name, *words = call.group(1).split()
+        folder, links, section = name, [], ""
+        for word in words:
+            if word in ("FOLDER", "LINKS"):
+                section = word
+            elif section == "FOLDER":
+                folder = word
+            else:
+                links.append(word)
+        found[name] = ("src/" + folder, links)
+    return found
+
+
+def reachable(name, found):
+    """Names of the rooms and libraries that `name` gets from its LINKS."""
+    seen = set()
+    waiting = [name]
+    while waiting:
+        for link in found[waiting.pop()][1]:
+            link = link.removeprefix("vantrel_")
+            if link not in seen:
+                seen.add(link)
+                if link in found:
+                    waiting.append(link)
+    return seen
+
+
+def check(tree):
+    found = rooms(tree.text(ROOMS))
+    room_of = {folder: name for name, (folder, _) in found.items()}
+    findings = []
+    for path in tree.paths(".h", ".cpp", ".mm", below="src/"):
+        folder = posixpath.dirname(path)
+        if folder not in room_of:
+            findings.append(Finding(path, 1, f"{folder} is not a room of {ROOMS}"))
+            continue
+        room = room_of[folder]
+        allowed = reachable(room, found) | {room}
+        for line, header, is_angled in cpp.includes(tree.text(path)):
+            reason = _objection(header, is_angled, room, allowed, room_of, folder)
+            if reason:
+                findings.append(Finding(path, line, reason))
+    return findings
+
+
+def _objection(header, is_angled, room, allowed, room_of, folder):
+    library = next((target for prefix, target in LIBRARIES.items() if header.startswith(prefix)), "")
+    if library != "":
+        return "" if library in allowed else f"{room} does not link what <{header}> belongs to"
+    if is_angled:
+        return ""
+    target = "src/" + posixpath.dirname(header)
+    if target not in room_of:
+        return f'"{header}" is in no room; include as "room/Type.h"'
+    if target == SIMULATED and folder not in (SIMULATED, APPLICATION):
+        return "only src/app and the tests may name the simulated platform"
+    if room_of[target] not in allowed:
+        return f'{room} may not include "{header}": it does not link {room_of[target]}'
+    return ""

@@ -1,0 +1,56 @@
+import unittest
+
+import layers
+from tree import Tree
+
+CMAKE = """
+vantrel_room(text LINKS PkgConfig::utf8proc)
+vantrel_room(runtime LINKS vantrel_text Threads::Threads)
+vantrel_room(platform LINKS vantrel_runtime)
+vantrel_room(simulated FOLDER platform/simulated
+             LINKS vantrel_platform nlohmann_json::nlohmann_json)
+vantrel_room(app LINKS vantrel_simulated CLI11::CLI11)
+"""
+
+
+def reasons(path, text):
+    return [f.reason for f in layers.check(Tree({layers.ROOMS: CMAKE, path: text}))]
+
+
+class LayersTest(unittest.TestCase):
+    def test_a_room_may_include_itself_and_what_it_links_through_others(self):
+        text = '#include <vector>\n#include "platform/Log.h"\n#include "text/Hex.h"\n'
+        self.assertEqual(reasons("src/platform/Log.cpp", text), [])
+
+    def test_a_room_may_not_include_what_it_does_not_link(self):
+        self.assertEqual(len(reasons("src/runtime/Task.h", '#include "platform/Log.h"\n')), 1)
+
+    def test_only_the_application_may_name_the_simulated_platform(self):
+        include = '#include "platform/simulated/Desk.h"\n'
+        self.assertEqual(reasons("src/app/main.cpp", include), [])
+        self.assertEqual(reasons("src/platform/simulated/Desk.cpp", include), [])
+        (reason,) = reasons("src/platform/Log.h", include)
+        self.assertIn("only src/app", reason)
+
+    def test_a_library_has_to_be_linked_too(self):
+        include = "#include <nlohmann/json.hpp>\n"
+        self.assertEqual(reasons("src/platform/simulated/Desk.cpp", include), [])
+        self.assertEqual(len(reasons("src/platform/Log.cpp", include)), 1)
+
+    def test_no_room_includes_the_test_libraries(self):
+        self.assertEqual(len(reasons("src/app/main.cpp", "#include <gtest/gtest.h>\n")), 1)
+
+    def test_an_include_without_its_room_is_refused(self):
+        self.assertEqual(len(reasons("src/text/Hex.cpp", '#include "Hex.h"\n')), 1)
+
+    def test_a_folder_has_to_be_a_room(self):
+        self.assertEqual(len(reasons("src/misc/Things.h", "")), 1)
+
+    def test_the_finding_names_the_line(self):
+        tree = Tree({layers.ROOMS: CMAKE, "src/text/Hex.h": '// Hex.\n\n#include "runtime/Task.h"\n'})
+        (finding,) = layers.check(tree)
+        self.assertEqual((finding.path, finding.line), ("src/text/Hex.h", 3))
+
+
+if __name__ == "__main__":
+    unittest.main()
