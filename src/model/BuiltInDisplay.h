@@ -11,9 +11,10 @@
 namespace vantrel::model {
 
 class BuiltInDisplay {
- public:
+  public:
     // Null when the panel's level can't be read.
-    static std::shared_ptr<BuiltInDisplay> make(platform::PrivateFunctions& functions, platform::DisplayID id);
+    static std::shared_ptr<BuiltInDisplay> make(platform::PrivateFunctions& functions,
+                                                platform::DisplayID id);
 
     platform::DisplayID id() const { return id_; }
 
@@ -25,7 +26,7 @@ class BuiltInDisplay {
     // the panel can't be read.
     void refresh();
 
- private:
+  private:
     BuiltInDisplay(platform::PrivateFunctions& functions, platform::DisplayID id, float brightness)
         : functions_(functions), id_(id), brightness_(brightness) {}
 

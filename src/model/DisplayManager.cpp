@@ -88,7 +88,8 @@ void DisplayManager::refresh() {
     for (const DisplayID id : externalIDs) externals.push_back(modelFor(id, std::nullopt, reusable, matches));
     std::map<DisplayID, Display> offline;
     for (const DisabledDisplay& entry : disabled()) {
-        const bool isNew = offline.emplace(entry.id, modelFor(entry.id, entry.name, reusable, matches)).second;
+        const bool isNew =
+            offline.emplace(entry.id, modelFor(entry.id, entry.name, reusable, matches)).second;
         runtime::require(isNew, "a display is listed twice among those turned off");
     }
     for (const Display& display : externals) known_[display->id()] = display;
@@ -103,7 +104,8 @@ void DisplayManager::refresh() {
 }
 
 void DisplayManager::updateBuiltIn(const std::vector<DisplayID>& online) {
-    const auto id = std::ranges::find_if(online, [this](DisplayID d) { return platform_.displays.isBuiltIn(d); });
+    const auto id =
+        std::ranges::find_if(online, [this](DisplayID d) { return platform_.displays.isBuiltIn(d); });
     if (id == online.end()) {
         builtIn_.set(nullptr);
     } else if (!builtIn() || builtIn()->id() != *id) {
@@ -173,10 +175,10 @@ DisplayManager::Display DisplayManager::modelFor(DisplayID id, std::optional<std
 
 void DisplayManager::logRefresh(const std::vector<DisplayID>& online, std::size_t newMatches) const {
     log(LogLevel::standard,
-        "Refresh: online " + joined(online, [](DisplayID id) { return std::to_string(id); }) + ", externals " +
-            joined(externals(), [](const Display& display) { return display->name(); }) + ", output off " +
-            joined(offline(), [](const auto& item) { return item.second->name(); }) + ", new DDC matches " +
-            std::to_string(newMatches));
+        "Refresh: online " + joined(online, [](DisplayID id) { return std::to_string(id); }) +
+            ", externals " + joined(externals(), [](const Display& display) { return display->name(); }) +
+            ", output off " + joined(offline(), [](const auto& item) { return item.second->name(); }) +
+            ", new DDC matches " + std::to_string(newMatches));
 }
 
 // A reconfiguration puts every transfer table back.

@@ -25,7 +25,7 @@
 namespace vantrel::model {
 
 class DisplayManager {
- public:
+  public:
     using DisplayID = platform::DisplayID;
     using DisabledDisplay = persistence::DisabledDisplay;
     using Display = std::shared_ptr<ExternalDisplay>;
@@ -74,17 +74,18 @@ class DisplayManager {
     // Operations that have not ended.
     std::size_t runningTasks() const { return tasks_.running(); }
 
- private:
+  private:
     using Matches = std::map<DisplayID, ddc::AVServiceLocator::Entry>;
 
     // The steps of refresh, in their order.
     void updateBuiltIn(const std::vector<DisplayID>& online);
     void pruneDisabled(const std::vector<DisplayID>& online);
     std::map<DisplayID, Display> reusableModels(const std::vector<DisplayID>& online) const;
-    Matches matchServices(const std::vector<DisplayID>& externals, const std::map<DisplayID, Display>& reusable);
+    Matches matchServices(const std::vector<DisplayID>& externals,
+                          const std::map<DisplayID, Display>& reusable);
     void notePulses(const std::vector<DisplayID>& online);
-    Display modelFor(DisplayID id, std::optional<std::string> name, const std::map<DisplayID, Display>& reusable,
-                     const Matches& matches);
+    Display modelFor(DisplayID id, std::optional<std::string> name,
+                     const std::map<DisplayID, Display>& reusable, const Matches& matches);
     void logRefresh(const std::vector<DisplayID>& online, std::size_t newMatches) const;
     void reapplyDimmers();
 

@@ -94,7 +94,8 @@ runtime::Task<> DisplayManager::returnToMac(Display display) {
     }
 }
 
-runtime::Task<bool> DisplayManager::waitForInput(Input input, Display display, std::function<bool()> isCurrent) {
+runtime::Task<bool> DisplayManager::waitForInput(Input input, Display display,
+                                                 std::function<bool()> isCurrent) {
     const runtime::WallTime start = platform_.scheduler.wallNow();
     std::optional<Input> last;
     int streak = 0;

@@ -38,7 +38,8 @@ runtime::Task<> DisplayManager::disableOutput(Display display, std::optional<Inp
     log(LogLevel::standard, "Turning Mac output off for " + display->name() + " (id " +
                                 std::to_string(display->id()) + "), switching to " +
                                 (target ? "0x" + text::upperHex(*target) : "nothing"));
-    if (!platform::DisplayToggler::setEnabled(platform_.displays, platform_.functions, display->id(), Output::off)) {
+    if (!platform::DisplayToggler::setEnabled(platform_.displays, platform_.functions, display->id(),
+                                              Output::off)) {
         fail(Text::translated("macOS refused to turn the output off for %@.", {display->name()}));
         log(LogLevel::standard, "macOS refused to turn output off for " + display->name());
         co_return;
@@ -70,15 +71,15 @@ runtime::Task<> DisplayManager::turnOutputOn(DisabledDisplay entry) {
         co_await returnToMac(display);
         co_return;
     }
-    log(LogLevel::standard, "Turning Mac output back on for " + entry.name + " (id " + std::to_string(entry.id) +
-                                "), no Mac input to switch to");
+    log(LogLevel::standard, "Turning Mac output back on for " + entry.name + " (id " +
+                                std::to_string(entry.id) + "), no Mac input to switch to");
     enable(entry.id, entry.name);
 }
 
 bool DisplayManager::enable(DisplayID id, const std::string& name) {
     if (!platform::DisplayToggler::setEnabled(platform_.displays, platform_.functions, id, Output::on)) {
-        fail(Text::translated(
-            "Couldn't turn %@ back on. If it was disconnected, plug the cable back in.", {name}));
+        fail(Text::translated("Couldn't turn %@ back on. If it was disconnected, plug the cable back in.",
+                              {name}));
         log(LogLevel::standard, "macOS refused to turn output back on for " + name);
         return false;
     }

@@ -99,7 +99,8 @@ int ExternalDisplay::beginInputRequest() {
 }
 
 runtime::Task<ddc::DDCChannel::ReadResult> ExternalDisplay::read(std::uint8_t code, int attempts) {
-    auto reading = worker_->run([code, attempts](ddc::DDCChannel& channel) { return channel.read(code, attempts); });
+    auto reading =
+        worker_->run([code, attempts](ddc::DDCChannel& channel) { return channel.read(code, attempts); });
     co_return co_await reading;
 }
 

@@ -32,7 +32,7 @@
 namespace vantrel::model {
 
 class ExternalDisplay {
- public:
+  public:
     using Input = std::uint16_t;
     using Features = std::map<std::uint8_t, std::shared_ptr<VCPFeature>>;
     using FeatureGroup = std::pair<mccs::VCPInfo::Group, std::vector<std::shared_ptr<VCPFeature>>>;
@@ -107,7 +107,7 @@ class ExternalDisplay {
     // Nothing goes back to the detected list.
     void setCustomInputs(std::optional<std::vector<Input>> inputs);
 
- private:
+  private:
     using ReadResult = ddc::DDCChannel::ReadResult;
 
     runtime::Task<> loadCapabilities(Capabilities from);

@@ -46,7 +46,8 @@ std::string ExternalDisplay::inputName(Input input) const {
     const auto alias = aliases.find(input);
     if (alias != aliases.end() && !alias->second.empty()) return alias->second;
     const auto& names = mccs::MCCS::inputNames();
-    if (const auto name = names.find(input); name != names.end()) return platform_.localizer.shown(name->second);
+    if (const auto name = names.find(input); name != names.end())
+        return platform_.localizer.shown(name->second);
     return platform_.localizer.shown(text::Text::translated("Input 0x%@", {text::upperHex(input)}));
 }
 
@@ -67,7 +68,8 @@ void ExternalDisplay::removeInput(Input input) {
 
 void ExternalDisplay::setCustomInputs(std::optional<std::vector<Input>> inputs) {
     inputSettings_.setCustomInputs(inputs);
-    if (const auto input = feature(inputSource)) input->options.set(inputs ? std::move(*inputs) : detectedInputs());
+    if (const auto input = feature(inputSource))
+        input->options.set(inputs ? std::move(*inputs) : detectedInputs());
 }
 
 std::optional<ExternalDisplay::Input> ExternalDisplay::normalizedInput(std::uint16_t rawReading) const {

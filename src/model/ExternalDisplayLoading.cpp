@@ -89,7 +89,8 @@ std::vector<std::uint8_t> ExternalDisplay::codesToLoad() const {
     std::vector<std::uint8_t> codes(defaultCodes.begin(), defaultCodes.end());
     if (!capabilities()) return codes;
     const std::vector<std::uint8_t>& listed = capabilities()->codes;
-    std::erase_if(codes, [&listed](std::uint8_t code) { return std::ranges::find(listed, code) == listed.end(); });
+    std::erase_if(codes,
+                  [&listed](std::uint8_t code) { return std::ranges::find(listed, code) == listed.end(); });
     const auto defaultsListed = codes.size();
     std::ranges::copy_if(listed, std::back_inserter(codes), [&](std::uint8_t code) {
         const auto end = codes.begin() + static_cast<std::ptrdiff_t>(defaultsListed);

@@ -14,7 +14,7 @@
 namespace vantrel::model {
 
 class InputSettings {
- public:
+  public:
     using Input = persistence::Store::Input;
     using Aliases = persistence::Store::InputAliases;
 
@@ -40,7 +40,7 @@ class InputSettings {
     const std::optional<std::vector<Input>>& customInputs() const { return customInputs_.get(); }
     void setCustomInputs(std::optional<std::vector<Input>> inputs);
 
- private:
+  private:
     platform::Defaults& defaults_;
     std::string key_;
     runtime::Observable<Aliases> aliases_;

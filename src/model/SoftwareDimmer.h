@@ -15,7 +15,7 @@
 namespace vantrel::model {
 
 class SoftwareDimmer {
- public:
+  public:
     // Reads the stored values; does not touch the display.
     SoftwareDimmer(platform::DisplayServices& displays, platform::BaseTables& baseTables,
                    platform::Defaults& defaults, platform::DisplayID displayID, std::string key);
@@ -43,7 +43,7 @@ class SoftwareDimmer {
     // is left alone while the dimmer is inactive.
     void apply();
 
- private:
+  private:
     void persistAndApply();
 
     platform::DisplayServices& displays_;

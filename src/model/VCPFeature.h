@@ -14,11 +14,12 @@
 namespace vantrel::model {
 
 class VCPFeature {
- public:
+  public:
     // The maximum of a code whose maximum is not known.
     static constexpr std::uint16_t usualMaximum = 100;
 
-    VCPFeature(std::uint8_t featureCode, mccs::VCPInfo featureInfo) : code(featureCode), info(std::move(featureInfo)) {}
+    VCPFeature(std::uint8_t featureCode, mccs::VCPInfo featureInfo)
+        : code(featureCode), info(std::move(featureInfo)) {}
 
     const std::uint8_t code;
     const mccs::VCPInfo info;

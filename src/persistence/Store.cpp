@@ -57,8 +57,9 @@ double real(const DefaultsDictionary& dictionary, const std::string& key, double
 }  // namespace
 
 std::string displayKey(platform::DisplayServices& displays, platform::DisplayID display) {
-    return std::to_string(displays.vendorNumber(display)) + "-" + std::to_string(displays.modelNumber(display)) +
-           "-" + std::to_string(displays.serialNumber(display));
+    return std::to_string(displays.vendorNumber(display)) + "-" +
+           std::to_string(displays.modelNumber(display)) + "-" +
+           std::to_string(displays.serialNumber(display));
 }
 
 bool hasSerialNumber(const std::string& key) { return !key.ends_with("-0"); }
@@ -77,7 +78,8 @@ std::optional<std::vector<Input>> customInputs(Defaults& defaults, const std::st
     return load(defaults, "customInputs." + key, StoredJSON::decodeInputs);
 }
 
-void setCustomInputs(Defaults& defaults, const std::optional<std::vector<Input>>& inputs, const std::string& key) {
+void setCustomInputs(Defaults& defaults, const std::optional<std::vector<Input>>& inputs,
+                     const std::string& key) {
     if (!inputs) return defaults.remove("customInputs." + key);
     save(defaults, "customInputs." + key, StoredJSON::encodeInputs(*inputs));
 }
@@ -124,7 +126,8 @@ void setControlMode(Defaults& defaults, const std::string& mode, const std::stri
 }
 
 SoftwareLevels softwareLevels(Defaults& defaults, const std::string& key) {
-    const auto dictionary = stored<DefaultsDictionary>(defaults, "software." + key).value_or(DefaultsDictionary{});
+    const auto dictionary =
+        stored<DefaultsDictionary>(defaults, "software." + key).value_or(DefaultsDictionary{});
     const SoftwareLevels usual;
     return {real(dictionary, "brightness", usual.brightness), real(dictionary, "contrast", usual.contrast)};
 }
@@ -135,7 +138,8 @@ void setSoftwareLevels(Defaults& defaults, const SoftwareLevels& levels, const s
 }
 
 std::vector<DisabledDisplay> disabledDisplays(Defaults& defaults) {
-    return load(defaults, disabledDisplaysKey, StoredJSON::decodeDisplays).value_or(std::vector<DisabledDisplay>{});
+    return load(defaults, disabledDisplaysKey, StoredJSON::decodeDisplays)
+        .value_or(std::vector<DisabledDisplay>{});
 }
 
 void setDisabledDisplays(Defaults& defaults, const std::vector<DisabledDisplay>& displays) {

@@ -37,8 +37,8 @@ std::string displayKey(platform::DisplayServices& displays, platform::DisplayID 
 bool hasSerialNumber(const std::string& key);
 
 std::optional<mccs::MonitorCapabilities> capabilities(platform::Defaults& defaults, const std::string& key);
-void setCapabilities(platform::Defaults& defaults, const std::optional<mccs::MonitorCapabilities>& capabilities,
-                     const std::string& key);
+void setCapabilities(platform::Defaults& defaults,
+                     const std::optional<mccs::MonitorCapabilities>& capabilities, const std::string& key);
 
 std::optional<std::vector<Input>> customInputs(platform::Defaults& defaults, const std::string& key);
 void setCustomInputs(platform::Defaults& defaults, const std::optional<std::vector<Input>>& inputs,

@@ -26,7 +26,8 @@ std::optional<Number> number(const JSON& json) {
         return static_cast<Number>(value);
     }
     const auto value = json.get<std::int64_t>();
-    if (value < 0 || static_cast<std::uint64_t>(value) > std::numeric_limits<Number>::max()) return std::nullopt;
+    if (value < 0 || static_cast<std::uint64_t>(value) > std::numeric_limits<Number>::max())
+        return std::nullopt;
     return static_cast<Number>(value);
 }
 

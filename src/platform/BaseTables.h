@@ -10,14 +10,14 @@
 namespace vantrel::platform {
 
 class BaseTables {
- public:
+  public:
     explicit BaseTables(DisplayServices& displays) : displays_(displays) {}
 
     bool holds(DisplayID display) const { return tables_.contains(display); }
     // Null when the display has no table that can be read; asks again next time.
     const TransferTable* table(DisplayID display);
 
- private:
+  private:
     DisplayServices& displays_;
     std::map<DisplayID, TransferTable> tables_;
 };

@@ -24,7 +24,7 @@ using DefaultsDictionary = std::map<std::string, std::variant<double, std::strin
 using DefaultsValue = std::variant<DefaultsData, std::int64_t, std::string, DefaultsDictionary>;
 
 class Defaults {
- public:
+  public:
     virtual ~Defaults() = default;
     // Nothing when there is none, or one of a type that nobody here keeps.
     virtual std::optional<DefaultsValue> value(const std::string& key) = 0;

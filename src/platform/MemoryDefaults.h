@@ -6,14 +6,14 @@
 namespace vantrel::platform {
 
 class MemoryDefaults : public Defaults {
- public:
+  public:
     std::optional<DefaultsValue> value(const std::string& key) override;
     void set(const std::string& key, DefaultsValue value) override;
     void remove(const std::string& key) override;
 
     const std::map<std::string, DefaultsValue>& all() const { return values_; }
 
- private:
+  private:
     std::map<std::string, DefaultsValue> values_;
 };
 

@@ -5,6 +5,8 @@
 // it calls scheduler.finishThreads() before it goes.
 #pragma once
 
+#include "platform/BaseTables.h"
+#include "platform/Defaults.h"
 #include "platform/DisplayServices.h"
 #include "platform/Localizer.h"
 #include "platform/Log.h"
@@ -22,6 +24,8 @@ struct Platform {
     DisplayServices& displays;
     Registry& registry;
     PrivateFunctions& functions;
+    BaseTables& baseTables;
+    Defaults& defaults;
     Workspace& workspace;
     Localizer& localizer;
     Log log;

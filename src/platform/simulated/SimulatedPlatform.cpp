@@ -17,9 +17,9 @@ SimulatedPlatform::SimulatedPlatform(Desk desk, runtime::Scheduler& scheduler, r
       functions_(libraries_),
       workspace_(world_) {}
 
-platform::Platform SimulatedPlatform::platform(platform::LogSink& sink) {
-    return {scheduler_, mainLoop_,  displays_,  registry_,
-            functions_, workspace_, localizer_, platform::Log(sink)};
+platform::Platform SimulatedPlatform::platform(platform::LogSink& sink, platform::Defaults& defaults) {
+    return {scheduler_,  mainLoop_, displays_,  registry_,  functions_,
+            baseTables_, defaults,  workspace_, localizer_, platform::Log(sink)};
 }
 
 SimulatedMonitor& SimulatedPlatform::monitor(platform::DisplayID display) {

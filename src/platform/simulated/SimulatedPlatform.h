@@ -13,6 +13,7 @@
 
 #include <cstddef>
 
+#include "platform/MemoryDefaults.h"
 #include "platform/Platform.h"
 #include "platform/simulated/AVServiceTable.h"
 #include "platform/simulated/Desk.h"
@@ -29,8 +30,11 @@ class SimulatedPlatform {
   public:
     SimulatedPlatform(Desk desk, runtime::Scheduler& scheduler, runtime::MainLoop& mainLoop);
 
-    // The sink must outlive what it returns.
-    platform::Platform platform(platform::LogSink& sink);
+    // Settings that end with the simulation.
+    platform::Platform platform(platform::LogSink& sink) { return platform(sink, memoryDefaults_); }
+    // Sink and settings must outlive what it returns.
+    platform::Platform platform(platform::LogSink& sink, platform::Defaults& defaults);
+    platform::MemoryDefaults& memoryDefaults() { return memoryDefaults_; }
 
     // Cables, lid, sleep: what happens to the computer and its desk.
     World& world() { return world_; }
@@ -52,6 +56,8 @@ class SimulatedPlatform {
     SimulatedRegistry registry_;
     SimulatedLibraries libraries_;
     platform::PrivateFunctions functions_;
+    platform::BaseTables baseTables_{displays_};
+    platform::MemoryDefaults memoryDefaults_;
     SimulatedWorkspace workspace_;
     EnglishLocalizer localizer_;
 };
