@@ -7,6 +7,7 @@
 #include "mccs/MCCS.h"
 #include "mccs/MonitorProfiles.h"
 #include "model/VCPCodes.h"
+#include "runtime/Sleep.h"
 #include "text/Hex.h"
 
 namespace vantrel::model {
