@@ -5,11 +5,11 @@
 #include <chrono>
 #include <utility>
 
+#include "ddc/CapabilitiesText.h"
 #include "ddc/DDCFrame.h"
 #include "platform/PrivateAPI.h"
 #include "runtime/Fatal.h"
 #include "text/Hex.h"
-#include "text/UTF8.h"
 
 namespace vantrel::ddc {
 
@@ -116,12 +116,12 @@ std::optional<std::string> DDCChannel::fetchCapabilities() {
     for (int offset = 0; offset < capabilitiesLimit;) {
         const std::optional<Bytes> fragment = capabilityFragment(offset);
         if (!fragment || fragment->empty()) break;
-        std::copy_if(fragment->begin(), fragment->end(), std::back_inserter(bytes),
-                     [](std::uint8_t byte) { return byte != 0; });
+        bytes.append(fragment->begin(), fragment->end());
         offset += static_cast<int>(fragment->size());
     }
-    if (bytes.empty()) return std::nullopt;
-    return text::repairedUTF8(bytes);
+    std::string capabilities = capabilitiesText(bytes);
+    if (capabilities.empty()) return std::nullopt;
+    return capabilities;
 }
 
 std::optional<DDCChannel::Bytes> DDCChannel::capabilityFragment(int offset) {

@@ -1,6 +1,7 @@
 #include "platform/PrivateAPI.h"
 
 #include <string>
+#include <utility>
 
 #include "runtime/Fatal.h"
 #include "text/Hex.h"
@@ -20,6 +21,7 @@ bool writeI2C(PrivateFunctions& functions, const Log& log, const AVService& serv
               std::uint32_t offset, std::span<const std::uint8_t> bytes) {
     const AVServiceWriteI2C write = functions.avWrite();
     if (write == nullptr) return false;
+    runtime::require(std::in_range<std::uint32_t>(bytes.size()), "an I2C write of too many bytes");
     const std::int32_t status =
         write(service.get(), chip, offset, bytes.data(), static_cast<std::uint32_t>(bytes.size()));
     if (status != 0) logFailure(log, "write", bytes.size(), status);
@@ -32,6 +34,7 @@ std::optional<std::vector<std::uint8_t>> readI2C(PrivateFunctions& functions, co
     const AVServiceReadI2C read = functions.avRead();
     if (read == nullptr) return std::nullopt;
     runtime::require(count >= 0, "an I2C read of a negative number of bytes");
+    runtime::require(std::in_range<std::uint32_t>(count), "an I2C read of too many bytes");
     std::vector<std::uint8_t> bytes(static_cast<std::size_t>(count), 0);
     const std::int32_t status =
         read(service.get(), chip, offset, bytes.data(), static_cast<std::uint32_t>(count));

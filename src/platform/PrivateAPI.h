@@ -19,7 +19,8 @@ namespace vantrel::platform::PrivateAPI {
 bool writeI2C(PrivateFunctions& functions, const Log& log, const AVService& service, std::uint32_t chip,
               std::uint32_t offset, std::span<const std::uint8_t> bytes);
 
-// Exactly `count` bytes, or nothing. A negative count stops the program.
+// Exactly `count` bytes, or nothing. A count that is no unsigned 32-bit number
+// stops the program.
 std::optional<std::vector<std::uint8_t>> readI2C(PrivateFunctions& functions, const Log& log,
                                                  const AVService& service, std::uint32_t chip,
                                                  std::uint32_t offset, std::ptrdiff_t count);

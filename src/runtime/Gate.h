@@ -1,5 +1,8 @@
 // What a thread waits at: one thread waits, any thread opens. Opening an
 // unattended gate is remembered, once, for the next wait.
+//
+// Lifetime: may be destroyed as soon as the wait that the last open() ended has
+// returned.
 #pragma once
 
 #include <optional>

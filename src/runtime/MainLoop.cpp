@@ -27,9 +27,17 @@ MainLoop::MainLoop(Scheduler& scheduler) : scheduler_(scheduler), inbox_(std::ma
 
 MainLoop::~MainLoop() {
     std::vector<Work> dropped;
-    const std::lock_guard lock(inbox_->mutex);
-    inbox_->closed = true;
-    dropped.swap(inbox_->posted);
+    {
+        const std::lock_guard lock(inbox_->mutex);
+        inbox_->closed = true;
+        dropped.swap(inbox_->posted);
+    }
+    dropped.clear();
+    // What the work holds may still post and cancel while it is destroyed.
+    while (!due_.empty()) {
+        const auto doomed = std::exchange(due_, {});
+        times_.clear();
+    }
 }
 
 MainLoop::TimerID MainLoop::post(Work work) { return add(scheduler_.now(), std::move(work)); }
@@ -49,7 +57,8 @@ MainLoop::TimerID MainLoop::add(MonotonicTime due, Work work) {
 void MainLoop::cancel(TimerID timer) {
     const auto found = times_.find(timer);
     if (found == times_.end()) return;
-    due_.erase(Key(found->second, timer));
+    // Destroyed last: what the work holds may post and cancel.
+    const auto doomed = due_.extract(Key(found->second, timer));
     times_.erase(found);
 }
 
@@ -67,7 +76,9 @@ void MainLoop::takeInbox() {
     }
 }
 
-void MainLoop::runDue() {
+void MainLoop::runDue() { runPass(); }
+
+bool MainLoop::runPass() {
     takeInbox();
     const MonotonicTime now = scheduler_.now();
     const TimerID firstOfNextPass = nextID_;
@@ -76,12 +87,17 @@ void MainLoop::runDue() {
             ++next;
             continue;
         }
-        const Work work = std::move(next->second);
-        times_.erase(next->first.second);
-        due_.erase(next);
-        work();
+        {
+            const Work work = std::move(next->second);
+            times_.erase(next->first.second);
+            due_.erase(next);
+            work();
+        }
+        // Only now: what the work held may have cancelled while it was destroyed.
         next = due_.begin();
     }
+    // A quit ends one pass and the run around it, nothing later.
+    return !std::exchange(quitting_, false);
 }
 
 std::optional<MonotonicTime> MainLoop::nextDue() const {
@@ -96,8 +112,7 @@ std::optional<MonotonicTime> MainLoop::nextDue() const {
 void MainLoop::run() {
     quitting_ = false;
     for (;;) {
-        runDue();
-        if (quitting_) return;
+        if (!runPass()) return;
         const std::optional<MonotonicTime> due = nextDue();
         if (due && *due <= scheduler_.now()) continue;
         if (inbox_->gate->wait(due) == Wake::idle) return;

@@ -55,6 +55,7 @@ class MainLoop {
     void run();
     // run() for `duration` of monotonic time at the most.
     void runFor(MonotonicClock::duration duration);
+    // Ends the innermost run() after the work that calls it; the rest stays due.
     void quit() { quitting_ = true; }
 
     // One pass: what is due now, but not what that makes due.
@@ -66,6 +67,8 @@ class MainLoop {
     using Key = std::pair<MonotonicTime, TimerID>;
 
     void takeInbox();
+    // False when quit() ended it.
+    bool runPass();
     TimerID add(MonotonicTime due, Work work);
 
     Scheduler& scheduler_;

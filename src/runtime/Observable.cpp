@@ -13,18 +13,21 @@ Observer*& currentObserver() {
 }  // namespace
 
 Observed::~Observed() {
-    for (Observer* observer : observers_) observer->sources_.erase(this);
+    for (const Registration& registration : registrations_) registration.observer->sources_.erase(this);
 }
 
 void Observed::wasRead() const {
     Observer* observer = currentObserver();
-    if (observer != nullptr && observer->sources_.insert(this).second) observers_.push_back(observer);
+    if (observer != nullptr && observer->sources_.insert(this).second)
+        registrations_.push_back({observer, changes_});
 }
 
 void Observed::hasChanged() {
-    // An observer that reads again from inside its notification waits for the next change.
-    for (std::size_t left = observers_.size(); left > 0 && !observers_.empty(); --left) {
-        Observer* observer = observers_.front();
+    const std::uint64_t change = ++changes_;
+    // Whoever is told may end other registrations and make new ones; new ones
+    // come last and wait for the next change.
+    while (!registrations_.empty() && registrations_.front().changes < change) {
+        Observer* observer = registrations_.front().observer;
         observer->forget();
         observer->changed_();
     }
@@ -35,7 +38,10 @@ Observer::Tracking::Tracking(Observer& observer) : outer_(std::exchange(currentO
 Observer::Tracking::~Tracking() { currentObserver() = outer_; }
 
 void Observer::forget() {
-    for (const Observed* source : sources_) std::erase(source->observers_, this);
+    for (const Observed* source : sources_) {
+        std::erase_if(source->registrations_,
+                      [this](const auto& registration) { return registration.observer == this; });
+    }
     sources_.clear();
 }
 

@@ -4,6 +4,7 @@
 // to a different value tells it, once. Setting an equal value is silent.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <unordered_set>
 #include <utility>
@@ -27,8 +28,16 @@ class Observed {
 
   private:
     friend class Observer;
+
+    struct Registration {
+        Observer* observer;
+        // How many changes came before it: it is told of the next one.
+        std::uint64_t changes;
+    };
+
     // In the order in which they came, so that they are told in that order.
-    mutable std::vector<Observer*> observers_;
+    mutable std::vector<Registration> registrations_;
+    std::uint64_t changes_ = 0;
 };
 
 class Observer {

@@ -16,10 +16,9 @@ std::chrono::steady_clock::time_point steady(MonotonicTime time) {
 class RealGate : public Gate {
   public:
     void open() override {
-        {
-            const std::lock_guard lock(mutex_);
-            open_ = true;
-        }
+        // Under the lock: the thread that wakes may destroy the gate at once.
+        const std::lock_guard lock(mutex_);
+        open_ = true;
         changed_.notify_one();
     }
 

@@ -18,8 +18,14 @@ void TaskHandle::cancel() const {
     if (const auto cancellation = state_.lock()) cancellation->request();
 }
 
+TaskScope::TaskScope(MainLoop& loop) : loop_(loop) {}
+
 TaskScope::~TaskScope() {
-    for (const auto& entry : entries_) loop_.cancel(entry->step);
+    // What the tasks hold may still start others while it is destroyed.
+    while (!entries_.empty()) {
+        const auto doomed = std::exchange(entries_, {});
+        for (const auto& entry : doomed) loop_.cancel(entry->step);
+    }
 }
 
 TaskHandle TaskScope::start(Task<void> task) {
@@ -40,7 +46,11 @@ void TaskScope::begin(Entry& entry) {
 }
 
 void TaskScope::remove(const Entry& entry) {
-    std::erase_if(entries_, [&entry](const auto& candidate) { return candidate.get() == &entry; });
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [&entry](const auto& candidate) { return candidate.get() == &entry; });
+    // Destroyed last: a parameter of the task may own the scope.
+    const auto finished = std::move(*found);
+    entries_.erase(found);
 }
 
 std::size_t TaskScope::running() const {

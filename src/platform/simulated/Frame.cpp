@@ -30,7 +30,10 @@ std::optional<Request> parseRequest(std::uint32_t source, std::span<const std::u
 }
 
 Bytes replyFrame(std::span<const std::uint8_t> payload) {
-    Bytes frame{displayAddress, static_cast<std::uint8_t>(lengthFlag | payload.size())};
+    Bytes frame;
+    frame.reserve(payload.size() + 3);
+    frame.push_back(displayAddress);
+    frame.push_back(static_cast<std::uint8_t>(lengthFlag | payload.size()));
     frame.insert(frame.end(), payload.begin(), payload.end());
     frame.push_back(exclusiveOr(replyChecksumStart, frame));
     return frame;

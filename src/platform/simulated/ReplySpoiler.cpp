@@ -29,8 +29,8 @@ Bytes withGreaterLength(Bytes frame) {
 }
 
 Bytes echo(std::uint8_t source, std::span<const std::uint8_t> request) {
-    Bytes bytes{source};
-    bytes.insert(bytes.end(), request.begin(), request.end());
+    Bytes bytes(request.begin(), request.end());
+    bytes.insert(bytes.begin(), source);
     return bytes;
 }
 

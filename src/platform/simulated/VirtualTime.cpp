@@ -1,5 +1,6 @@
 #include "platform/simulated/VirtualTime.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -43,6 +44,7 @@ class VirtualTime::VirtualGate : public runtime::Gate {
         std::unique_lock lock(time_.mutex_);
         if (std::exchange(isOpen_, false)) return Wake::opened;
         Participant& participant = time_.current();
+        runtime::require(waiting_ == nullptr, "two threads wait at one gate");
         waiting_ = &participant;
         participant.wake = Wake::deadline;
         if (deadline) time_.makeDue(participant, *deadline);
@@ -78,7 +80,7 @@ runtime::WallTime VirtualTime::wallNow() const {
 void VirtualTime::sleepFor(MonotonicClock::duration duration) {
     std::unique_lock lock(mutex_);
     Participant& participant = current();
-    makeDue(participant, now_ + std::max(duration, MonotonicClock::duration::zero()));
+    makeDue(participant, now_ + duration);
     pause(lock, participant);
 }
 
@@ -135,7 +137,8 @@ VirtualTime::Participant& VirtualTime::current() {
 }
 
 void VirtualTime::makeDue(Participant& participant, MonotonicTime due) {
-    participant.due = due;
+    // Who is overdue has waited no longer than those who are due now.
+    participant.due = std::max(due, now_);
     participant.order = nextOrder_++;
 }
 
@@ -151,7 +154,7 @@ void VirtualTime::handOver() {
         next = main_;
         next->wake = Wake::idle;
     } else {
-        now_ = std::max(now_, *next->due);
+        now_ = *next->due;
     }
     next->due.reset();
     next->hasBaton = true;

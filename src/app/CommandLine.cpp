@@ -1,0 +1,100 @@
+#include "app/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <map>
+#include <memory>
+
+#include "app/Version.h"
+#include "platform/simulated/ShippedDesks.h"
+
+namespace vantrel::app {
+namespace {
+
+using platform::LogLevel;
+
+const std::map<std::string, LogLevel> logLevels{{"debug", LogLevel::debug},
+                                                {"info", LogLevel::info},
+                                                {"default", LogLevel::standard},
+                                                {"error", LogLevel::error},
+                                                {"fault", LogLevel::fault}};
+constexpr const char* logLevelNames = "debug, info, default, error, fault";
+
+std::string shippedDesks() {
+    const auto desks = simulated::ShippedDesks::list();
+    std::size_t width = 0;
+    for (const auto& desk : desks) width = std::max(width, desk.name.size());
+    std::string list = "Simulated desks that come with the program:\n";
+    for (const auto& desk : desks) {
+        list += "  " + std::string(desk.name) + std::string(width - desk.name.size() + 2, ' ') +
+                desk.description + "\n";
+    }
+    return list;
+}
+
+// The parser's messages are sentences with line breaks in some places; a mistake
+// is one line, and says where the way out is.
+std::string oneLine(std::string message) {
+    std::replace(message.begin(), message.end(), '\n', ' ');
+    return message + " (see --help)";
+}
+
+}  // namespace
+
+std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::parse(
+    const std::vector<std::string>& arguments) {
+    CommandLine line;
+    std::string simulate;
+    std::string log;
+    std::string parseCapabilities;
+
+    CLI::App parser("Vantrel controls the monitors on a desk over DDC/CI.", "vantrel");
+    parser.set_version_flag("--version", std::string("vantrel ") + version, "Print the version and exit");
+    parser.set_help_flag("--help", "Print this help and exit");
+    parser.add_flag("--probe", line.probe, "Print what every external monitor answers over DDC/CI, and exit");
+    const CLI::Option* simulateOption =
+        parser
+            .add_option(
+                "--simulate", simulate,
+                "Use simulated monitors: a desk file or the name of a desk below; the desk \"default\" "
+                "without FILE")
+            ->expected(0, 1)
+            ->type_name("[FILE]");
+    parser.add_flag("--virtual-time", line.virtualTime, "With --simulate: don't wait, let time jump");
+    const CLI::Option* logOption =
+        parser.add_option("--log", log, std::string("Show the log from LEVEL on: ") + logLevelNames)
+            ->type_name("LEVEL");
+    const CLI::Option* parseOption =
+        parser
+            .add_option("--parse-capabilities", parseCapabilities,
+                        "Parse a monitor's raw capabilities string from FILE or standard input and print it "
+                        "as JSON; exits 1 with \"none\" if there is nothing in it")
+            ->expected(0, 1)
+            ->type_name("[FILE]");
+
+    try {
+        parser.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::CallForHelp&) {
+        return Text{parser.help() + "\n" + shippedDesks()};
+    } catch (const CLI::CallForVersion&) {
+        return Text{parser.version() + "\n"};
+    } catch (const CLI::ParseError& error) {
+        return Mistake{oneLine(error.what())};
+    }
+
+    if (simulateOption->count() > 0) line.simulate = simulate;
+    if (parseOption->count() > 0) line.parseCapabilities = parseCapabilities;
+    if (logOption->count() > 0) {
+        const auto level = logLevels.find(log);
+        if (level == logLevels.end()) {
+            return Mistake{oneLine("--log: no level \"" + log + "\"; there are " + logLevelNames)};
+        }
+        line.log = level->second;
+    }
+    if (line.virtualTime && !line.simulate) {
+        return Mistake{oneLine("--virtual-time needs --simulate: real monitors answer in real time")};
+    }
+    return line;
+}
+
+}  // namespace vantrel::app

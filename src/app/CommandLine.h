@@ -1,0 +1,39 @@
+// What the user asked for on the command line.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/LogSink.h"
+
+namespace vantrel::app {
+
+struct CommandLine {
+    // The diagnostic report instead of the interface.
+    bool probe = false;
+    // Real monitors unless this is set: a desk file or the name of a shipped
+    // desk; empty for the default desk.
+    std::optional<std::string> simulate;
+    // Time passes only while nobody works; for a simulated desk.
+    bool virtualTime = false;
+    // Log lines at this level and above go to standard error.
+    std::optional<platform::LogLevel> log;
+    // Parses a capabilities string: from this file, or from standard input when empty.
+    std::optional<std::string> parseCapabilities;
+
+    // A text to print instead of doing anything: the help, or the version.
+    struct Text {
+        std::string text;
+    };
+    // One line that says what is wrong.
+    struct Mistake {
+        std::string reason;
+    };
+
+    // Arguments without the program's name.
+    static std::variant<CommandLine, Text, Mistake> parse(const std::vector<std::string>& arguments);
+};
+
+}  // namespace vantrel::app

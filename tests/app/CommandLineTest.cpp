@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+
+#include "app/CommandLine.h"
+#include "platform/simulated/ShippedDesks.h"
+
+namespace vantrel::app {
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+CommandLine parsed(const Arguments& arguments) {
+    const auto result = CommandLine::parse(arguments);
+    const auto* mistake = std::get_if<CommandLine::Mistake>(&result);
+    EXPECT_EQ(mistake, nullptr) << (mistake != nullptr ? mistake->reason : "");
+    const auto* line = std::get_if<CommandLine>(&result);
+    return line != nullptr ? *line : CommandLine{};
+}
+
+std::string mistakeOf(const Arguments& arguments) {
+    const auto result = CommandLine::parse(arguments);
+    const auto* mistake = std::get_if<CommandLine::Mistake>(&result);
+    return mistake != nullptr ? mistake->reason : "no mistake";
+}
+
+std::string textOf(const Arguments& arguments) {
+    const auto result = CommandLine::parse(arguments);
+    const auto* text = std::get_if<CommandLine::Text>(&result);
+    return text != nullptr ? text->text : "no text";
+}
+
+TEST(CommandLine, AsksForNothingWithoutArguments) {
+    const CommandLine line = parsed({});
+    EXPECT_FALSE(line.probe);
+    EXPECT_FALSE(line.simulate);
+    EXPECT_FALSE(line.virtualTime);
+    EXPECT_FALSE(line.log);
+    EXPECT_FALSE(line.parseCapabilities);
+}
+
+TEST(CommandLine, FindsProbeAnywhere) {
+    EXPECT_TRUE(parsed({"--probe"}).probe);
+    EXPECT_TRUE(parsed({"--probe", "--simulate"}).probe);
+    EXPECT_TRUE(parsed({"--simulate", "--probe", "--log", "debug"}).probe);
+    EXPECT_TRUE(parsed({"--simulate", "twins", "--log", "debug", "--probe"}).probe);
+}
+
+TEST(CommandLine, TakesTheDefaultDeskWithoutAFile) {
+    EXPECT_EQ(parsed({"--simulate"}).simulate, "");
+    EXPECT_EQ(parsed({"--simulate", "--probe"}).simulate, "");
+}
+
+TEST(CommandLine, TakesADeskFile) {
+    EXPECT_EQ(parsed({"--simulate", "a folder/desk.json", "--probe"}).simulate, "a folder/desk.json");
+    EXPECT_EQ(parsed({"--simulate=desk.json"}).simulate, "desk.json");
+}
+
+TEST(CommandLine, KnowsTheFiveLogLevels) {
+    using platform::LogLevel;
+    EXPECT_EQ(parsed({"--log", "debug"}).log, LogLevel::debug);
+    EXPECT_EQ(parsed({"--log", "info"}).log, LogLevel::info);
+    EXPECT_EQ(parsed({"--log", "default"}).log, LogLevel::standard);
+    EXPECT_EQ(parsed({"--log", "error"}).log, LogLevel::error);
+    EXPECT_EQ(parsed({"--log", "fault"}).log, LogLevel::fault);
+}
+
+TEST(CommandLine, NamesTheLevelsWhenOneIsUnknown) {
+    EXPECT_EQ(mistakeOf({"--log", "loud"}),
+              "--log: no level \"loud\"; there are debug, info, default, error, fault (see --help)");
+}
+
+TEST(CommandLine, WantsALevelAfterLog) {
+    EXPECT_EQ(mistakeOf({"--log"}), "--log: 1 required LEVEL missing (see --help)");
+}
+
+TEST(CommandLine, RefusesAnUnknownOptionByName) {
+    EXPECT_EQ(mistakeOf({"--brightness"}),
+              "The following argument was not expected: --brightness (see --help)");
+    EXPECT_EQ(mistakeOf({"--probe", "-x"}), "The following argument was not expected: -x (see --help)");
+}
+
+TEST(CommandLine, RefusesALooseWordByName) {
+    EXPECT_EQ(mistakeOf({"probe"}), "The following argument was not expected: probe (see --help)");
+    EXPECT_EQ(mistakeOf({"--simulate", "one", "two"}),
+              "The following argument was not expected: two (see --help)");
+}
+
+TEST(CommandLine, RefusesVirtualTimeForRealMonitors) {
+    EXPECT_EQ(mistakeOf({"--virtual-time"}),
+              "--virtual-time needs --simulate: real monitors answer in real time (see --help)");
+    EXPECT_TRUE(parsed({"--virtual-time", "--simulate"}).virtualTime);
+}
+
+TEST(CommandLine, TakesAFileOrNoneToParse) {
+    EXPECT_EQ(parsed({"--parse-capabilities"}).parseCapabilities, "");
+    EXPECT_EQ(parsed({"--parse-capabilities", "raw.txt"}).parseCapabilities, "raw.txt");
+}
+
+TEST(CommandLine, HelpNamesEveryOptionAndEveryShippedDesk) {
+    const std::string help = textOf({"--help"});
+    for (const char* option : {"--probe", "--simulate", "--virtual-time", "--log", "--parse-capabilities",
+                               "--help", "--version"}) {
+        EXPECT_NE(help.find(option), std::string::npos) << option;
+    }
+    for (const auto& desk : simulated::ShippedDesks::list()) {
+        EXPECT_NE(help.find("  " + std::string(desk.name) + " "), std::string::npos) << desk.name;
+        EXPECT_NE(help.find(desk.description), std::string::npos) << desk.name;
+    }
+}
+
+TEST(CommandLine, HelpWinsOverWhatElseIsAsked) {
+    EXPECT_NE(textOf({"--probe", "--help"}).find("--simulate"), std::string::npos);
+}
+
+TEST(CommandLine, VersionIsNameAndNumber) { EXPECT_EQ(textOf({"--version"}).rfind("vantrel ", 0), 0U); }
+
+}  // namespace
+}  // namespace vantrel::app

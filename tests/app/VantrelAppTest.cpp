@@ -1,0 +1,184 @@
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+
+#include "app/VantrelApp.h"
+#include "platform/simulated/ShippedDesks.h"
+
+namespace vantrel::app {
+namespace {
+
+struct Outcome {
+    int status;
+    std::string output;
+    std::string errors;
+};
+
+Outcome run(const std::vector<std::string>& arguments, const std::string& standardInput = "") {
+    std::istringstream input(standardInput);
+    std::ostringstream output;
+    std::ostringstream errors;
+    const int status = VantrelApp(input, output, errors).run(arguments);
+    return {status, output.str(), errors.str()};
+}
+
+class Folder {
+  public:
+    Folder() : path_(std::filesystem::path(testing::TempDir()) / "vantrel-app-test") {
+        std::filesystem::create_directories(path_);
+    }
+    ~Folder() { std::filesystem::remove_all(path_); }
+    std::string file(const std::string& name, const std::string& text) const {
+        std::ofstream(path_ / name, std::ios::binary) << text;
+        return (path_ / name).string();
+    }
+    std::string path() const { return path_.string(); }
+
+  private:
+    std::filesystem::path path_;
+};
+
+TEST(VantrelApp, ProbesEveryShippedDesk) {
+    for (const auto& desk : simulated::ShippedDesks::list()) {
+        const Outcome outcome = run({"--simulate", std::string(desk.name), "--virtual-time", "--probe"});
+        EXPECT_EQ(outcome.status, 0) << desk.name;
+        EXPECT_EQ(outcome.output.rfind("External AV services: ", 0), 0U) << desk.name;
+        EXPECT_EQ(outcome.errors, "") << desk.name;
+    }
+}
+
+TEST(VantrelApp, ProbesTheDefaultDeskWithoutAFile) {
+    const Outcome byDefault = run({"--simulate", "--virtual-time", "--probe"});
+    EXPECT_EQ(byDefault.output, run({"--simulate", "default", "--virtual-time", "--probe"}).output);
+    EXPECT_NE(byDefault.output.find("External AV services: 4\n"), std::string::npos);
+    EXPECT_NE(
+        byDefault.output.find("Input profile: 0x0F, 0x11, 0x12 · read map 1 → 0x11, 3 → 0x0F, 4 → 0x12\n"),
+        std::string::npos);
+    EXPECT_NE(byDefault.output.find("Current input: raw 3 → DisplayPort 1\n"), std::string::npos);
+    EXPECT_NE(byDefault.output.find("Capabilities: <none>\n"), std::string::npos);
+}
+
+TEST(VantrelApp, PrintsTheSameProbeEveryTime) {
+    const std::vector<std::string> arguments{"--simulate", "hostile", "--virtual-time",
+                                             "--probe",    "--log",   "debug"};
+    const Outcome first = run(arguments);
+    const Outcome second = run(arguments);
+    EXPECT_EQ(first.output, second.output);
+    EXPECT_EQ(first.errors, second.errors);
+}
+
+TEST(VantrelApp, ShowsTheLogFromTheLevelOn) {
+    const Outcome all = run({"--simulate", "--virtual-time", "--probe", "--log", "debug"});
+    const Outcome lasting = run({"--simulate", "--virtual-time", "--probe", "--log", "error"});
+    EXPECT_NE(all.errors.find(" Debug   vantrel: [org.vantrel.Vantrel:ddc] "), std::string::npos);
+    EXPECT_NE(all.errors.find(" Default vantrel: [org.vantrel.Vantrel:ddc] "), std::string::npos);
+    EXPECT_EQ(lasting.errors.find(" Debug "), std::string::npos);
+    EXPECT_EQ(lasting.errors.find(" Default "), std::string::npos);
+    EXPECT_NE(lasting.errors.find(" Error   vantrel: [org.vantrel.Vantrel:ddc] "), std::string::npos);
+    EXPECT_EQ(all.output, lasting.output);
+}
+
+TEST(VantrelApp, SaysThatThereIsNoInterfaceYet) {
+    const Outcome outcome = run({});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(
+        outcome.errors,
+        "vantrel: there is no interface yet; --probe prints what the monitors answer, with --simulate those "
+        "of a simulated desk (see --help)\n");
+}
+
+TEST(VantrelApp, SaysThatItReachesNoRealMonitorsYet) {
+    const Outcome outcome = run({"--probe"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.errors,
+              "vantrel: this build can't reach real monitors yet; use --simulate for a simulated desk (see "
+              "--help)\n");
+}
+
+TEST(VantrelApp, AnswersAMistakeWithOneLineAndStatusTwo) {
+    const Outcome outcome = run({"--nonsense"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "vantrel: The following argument was not expected: --nonsense (see --help)\n");
+}
+
+TEST(VantrelApp, HelpAndVersionGoToTheOutput) {
+    EXPECT_EQ(run({"--help"}).status, 0);
+    EXPECT_EQ(run({"--help"}).errors, "");
+    EXPECT_EQ(run({"--version"}).status, 0);
+    EXPECT_EQ(run({"--version"}).output.rfind("vantrel ", 0), 0U);
+}
+
+TEST(VantrelApp, RunsADeskFileOfTheUsers) {
+    const Folder folder;
+    const std::string file = folder.file("empty desk.json", R"({"title": "Empty", "displays": []})");
+    const Outcome outcome = run({"--simulate", file, "--virtual-time", "--probe"});
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(outcome.output, "External AV services: 0\n");
+}
+
+TEST(VantrelApp, NamesFilePlaceAndReasonOfAMistakeInADeskFile) {
+    const Folder folder;
+    const std::string file = folder.file("desk.json", R"({"title": "X", "displays": [], "colour": 1})");
+    const Outcome outcome = run({"--simulate", file, "--probe"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors.rfind("vantrel: " + file + ": ", 0), 0U) << outcome.errors;
+    EXPECT_NE(outcome.errors.find("colour"), std::string::npos) << outcome.errors;
+    EXPECT_EQ(outcome.errors.find('\n'), outcome.errors.size() - 1);
+}
+
+TEST(VantrelApp, ListsTheShippedDesksWhenNeitherDeskNorFileIsFound) {
+    const Outcome outcome = run({"--simulate", "defalt", "--probe"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_NE(outcome.errors.find("defalt"), std::string::npos);
+    EXPECT_NE(outcome.errors.find("twins"), std::string::npos);
+    EXPECT_EQ(outcome.errors.find('\n'), outcome.errors.size() - 1);
+}
+
+TEST(VantrelApp, ParsesCapabilitiesFromStandardInput) {
+    const Outcome outcome = run({"--parse-capabilities"}, "(model(X1)vcp(10 14(05 08)))");
+    EXPECT_EQ(outcome.status, 0);
+    const std::string json =
+        R"json({"raw":"(model(X1)vcp(10 14(05 08)))","model":"X1","codes":[16,20],"values":[20,[5,8]]})json";
+    EXPECT_EQ(outcome.output, json + "\n");
+}
+
+TEST(VantrelApp, ParsesCapabilitiesFromAFile) {
+    const Folder folder;
+    const Outcome outcome = run({"--parse-capabilities", folder.file("raw", "vcp(10)\n")});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, "{\"raw\":\"vcp(10)\",\"codes\":[16],\"values\":[]}\n");
+}
+
+TEST(VantrelApp, TreatsCapabilitiesBytesAsIfAMonitorHadSentThem) {
+    const Outcome outcome = run({"--parse-capabilities"}, std::string("vcp(1\0"
+                                                                      "0\xFF)",
+                                                                      9));
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, "{\"raw\":\"vcp(10\xEF\xBF\xBD)\",\"codes\":[16],\"values\":[]}\n");
+}
+
+TEST(VantrelApp, PrintsNoneWhenThereIsNothingToParse) {
+    for (const char* text : {"", "\n", "(prot(monitor))", "vcp()"}) {
+        const Outcome outcome = run({"--parse-capabilities"}, text);
+        EXPECT_EQ(outcome.status, 1) << text;
+        EXPECT_EQ(outcome.output, "none\n") << text;
+        EXPECT_EQ(outcome.errors, "") << text;
+    }
+}
+
+TEST(VantrelApp, NamesACapabilitiesFileThatItCantRead) {
+    const Folder folder;
+    const std::string missing = folder.path() + "/missing";
+    EXPECT_EQ(run({"--parse-capabilities", missing}).status, 2);
+    EXPECT_EQ(run({"--parse-capabilities", missing}).errors, "vantrel: can't read " + missing + "\n");
+    EXPECT_EQ(run({"--parse-capabilities", folder.path()}).status, 2);
+    EXPECT_EQ(run({"--parse-capabilities", folder.path()}).errors,
+              "vantrel: can't read " + folder.path() + "\n");
+}
+
+}  // namespace
+}  // namespace vantrel::app
