@@ -185,8 +185,9 @@ TEST(World, DropsItsWorkInTheLoopWhenItGoes) {
     int calls = 0;
     {
         SimulatedPlatform simulated(pulsingDesk(), time, loop);
-        simulated.world().onReconfiguration([&calls](platform::DisplayID, std::uint32_t) { ++calls; });
-        simulated.world().onWake([&calls] { ++calls; });
+        simulated.world().announcements().onReconfiguration(
+            [&calls](platform::DisplayID, std::uint32_t) { ++calls; });
+        simulated.world().announcements().onWake([&calls] { ++calls; });
         simulated.monitor(2).pressInputButton(0x11);
         loop.runDue();
         simulated.world().unplug(3);
