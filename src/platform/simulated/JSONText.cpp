@@ -116,6 +116,10 @@ bool isPlain(char character) {
 }  // namespace
 
 std::variant<json, Mistake> parseJSON(std::string_view text) {
+    // The parser takes a NUL for the end of the text.
+    if (const std::size_t nul = text.find('\0'); nul != std::string_view::npos) {
+        return Mistake{lineAndColumn(text, nul + 1), "unexpected NUL byte"};
+    }
     TreeBuilder builder(text);
     json::sax_parse(text, &builder);
     if (builder.mistake) return *std::move(builder.mistake);
