@@ -1,8 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/simulated/DefaultRegistry.h"
-#include "platform/simulated/DeskFile.h"
+#include "platform/simulated/RegistryReader.h"
 #include "simulated/DeskFileText.h"
 
 namespace vantrel::simulated {
@@ -32,7 +31,7 @@ PropertyDictionary attributes(PropertyDictionary product) {
     return {{"ProductAttributes", std::move(product)}};
 }
 
-TEST(DeskFileRegistry, ShowsAFramebufferBeforeEachProxyByDefault) {
+TEST(RegistryReader, ShowsAFramebufferBeforeEachProxyByDefault) {
     const Desk desk = readDeskText(R"({"title": "T", )" + displays + "}");
     std::vector<std::pair<Kind, platform::DisplayID>> shown;
     for (const RegistryEntryPlan& entry : desk.registry) {
@@ -43,9 +42,9 @@ TEST(DeskFileRegistry, ShowsAFramebufferBeforeEachProxyByDefault) {
     EXPECT_GT(desk.registry.size(), shown.size()) << "nothing unrelated in between";
 }
 
-TEST(DeskFileRegistry, CanBeEmpty) { EXPECT_TRUE(registryOf("[]").empty()); }
+TEST(RegistryReader, CanBeEmpty) { EXPECT_TRUE(registryOf("[]").empty()); }
 
-TEST(DeskFileRegistry, KeepsTheFilesOrder) {
+TEST(RegistryReader, KeepsTheFilesOrder) {
     const auto entries = registryOf(R"([{"proxy": 2}, {"entry": "X"}, {"framebuffer": 2}, {"proxy": 2}])");
     ASSERT_EQ(entries.size(), 4U);
     EXPECT_EQ(entries[0].kind, Kind::proxy);
@@ -54,7 +53,7 @@ TEST(DeskFileRegistry, KeepsTheFilesOrder) {
     EXPECT_EQ(entries[3].kind, Kind::proxy);
 }
 
-TEST(DeskFileRegistry, GivesAFramebufferItsDisplaysIdentity) {
+TEST(RegistryReader, GivesAFramebufferItsDisplaysIdentity) {
     const RegistryEntryPlan entry = onlyEntry(R"({"framebuffer": 2})");
     EXPECT_EQ(entry.name, "IOMobileFramebufferShim");
     EXPECT_EQ(entry.display, 2U);
@@ -64,26 +63,26 @@ TEST(DeskFileRegistry, GivesAFramebufferItsDisplaysIdentity) {
     EXPECT_EQ(entry.properties, expected);
 }
 
-TEST(DeskFileRegistry, NamesTheBuiltInFramebufferByItsOwnDriver) {
+TEST(RegistryReader, NamesTheBuiltInFramebufferByItsOwnDriver) {
     EXPECT_EQ(onlyEntry(R"({"framebuffer": 1})").name, "AppleCLCD2");
 }
 
-TEST(DeskFileRegistry, PlacesTheLinkOfAMonitorOutside) {
+TEST(RegistryReader, PlacesTheLinkOfAMonitorOutside) {
     const RegistryEntryPlan entry = onlyEntry(R"({"proxy": "0x2"})");
     EXPECT_EQ(entry.name, "DCPAVServiceProxy");
     EXPECT_EQ(entry.display, 2U);
     EXPECT_EQ(entry.properties, (PropertyDictionary{{"Location", "External"}}));
 }
 
-TEST(DeskFileRegistry, PlacesTheLinkOfTheBuiltInPanelInside) {
+TEST(RegistryReader, PlacesTheLinkOfTheBuiltInPanelInside) {
     EXPECT_EQ(onlyEntry(R"({"proxy": 1})").properties, (PropertyDictionary{{"Location", "Internal"}}));
 }
 
-TEST(DeskFileRegistry, TakesAnotherNameOfAnyBytes) {
+TEST(RegistryReader, TakesAnotherNameOfAnyBytes) {
     EXPECT_EQ(onlyEntry(R"({"proxy": 2, "name": {"hex": "44 FF 00"}})").name, std::string("D\xFF\0", 3));
 }
 
-TEST(DeskFileRegistry, TakesAnUnrelatedEntry) {
+TEST(RegistryReader, TakesAnUnrelatedEntry) {
     const RegistryEntryPlan entry =
         onlyEntry(R"({"entry": "IOHIDSystem", "properties": {"Location": "External"}})");
     EXPECT_EQ(entry.kind, Kind::other);
@@ -91,13 +90,13 @@ TEST(DeskFileRegistry, TakesAnUnrelatedEntry) {
     EXPECT_EQ(entry.properties, (PropertyDictionary{{"Location", "External"}}));
 }
 
-TEST(DeskFileRegistry, LeavesPropertiesOutAtAnyDepth) {
+TEST(RegistryReader, LeavesPropertiesOutAtAnyDepth) {
     const auto entry = onlyEntry(R"({"framebuffer": 2, "without": ["EDID UUID", "SerialNumber"]})");
     EXPECT_EQ(entry.properties,
               (PropertyDictionary{{"DisplayAttributes", attributes({{"ProductName", "Screen"}})}}));
 }
 
-TEST(DeskFileRegistry, PutsGivenPropertiesInPlaceOfItsOwn) {
+TEST(RegistryReader, PutsGivenPropertiesInPlaceOfItsOwn) {
     const auto entry = onlyEntry(R"({"framebuffer": 2, "without": ["DisplayAttributes"],
         "properties": {"EDID UUID": "X", "More": {"Inner": -1}}})");
     EXPECT_EQ(
@@ -105,7 +104,7 @@ TEST(DeskFileRegistry, PutsGivenPropertiesInPlaceOfItsOwn) {
         (PropertyDictionary{{"EDID UUID", "X"}, {"More", PropertyDictionary{{"Inner", std::int64_t{-1}}}}}));
 }
 
-TEST(DeskFileRegistry, TakesPropertiesOfAnyType) {
+TEST(RegistryReader, TakesPropertiesOfAnyType) {
     const auto entry = onlyEntry(R"({"entry": "X", "properties":
         {"a": null, "b": true, "c": 1.5, "d": [1], "e": 9223372036854775807, "f": 9223372036854775808}})");
     const PropertyValue unread{std::monostate()};
@@ -117,18 +116,44 @@ TEST(DeskFileRegistry, TakesPropertiesOfAnyType) {
                                                     {"f", unread}}));
 }
 
-TEST(DefaultRegistry, PrefersADisplaysOwnUUID) {
-    DisplayPlan display;
-    display.vendor = 0x0472;
-    display.edidUUID = "0472";
-    EXPECT_EQ(edidUUID(display), "0472");
+TEST(RegistryReader, RefusesARegistryEntryOfNoKind) {
+    EXPECT_EQ(mistakeIn(deskWith("", R"(, "registry": [{"name": "X"}])")),
+              "x.json: registry[0]: must have one of framebuffer, proxy and entry");
 }
 
-TEST(DefaultRegistry, MakesTheUUIDOfTheLowBytesOfLongNumbers) {
-    DisplayPlan display;
-    display.vendor = 0x756E6B6E;
-    display.product = 0xFFFF00AB;
-    EXPECT_EQ(edidUUID(display), "6B6EAB00-0000-0000-0000-000000000000");
+TEST(RegistryReader, RefusesARegistryEntryOfTwoKinds) {
+    EXPECT_EQ(mistakeIn(deskWith("", R"(, "registry": [{"proxy": 2, "framebuffer": 2}])")),
+              "x.json: registry[0]: must have one of framebuffer, proxy and entry");
+}
+
+TEST(RegistryReader, RefusesARegistryEntryOfAnUnknownDisplay) {
+    EXPECT_EQ(mistakeIn(deskWith("", R"(, "registry": [{"framebuffer": 2}, {"proxy": 9}])")),
+              "x.json: registry[1].proxy: there is no display 9");
+}
+
+TEST(RegistryReader, RefusesAFramebufferOfAnUnknownDisplay) {
+    EXPECT_EQ(mistakeIn(deskWith("", R"(, "registry": [{"framebuffer": 9}])")),
+              "x.json: registry[0].framebuffer: there is no display 9");
+}
+
+TEST(RegistryReader, RefusesARegistryEntryWithTwoNames) {
+    EXPECT_EQ(mistakeIn(deskWith("", R"(, "registry": [{"entry": "X", "name": "Y"}])")),
+              "x.json: registry[0].name: is already given by entry");
+}
+
+TEST(RegistryReader, RefusesAnUnrelatedEntryThatLeavesSomethingOut) {
+    EXPECT_EQ(mistakeIn(deskWith("", R"(, "registry": [{"entry": "X", "without": ["Location"]}])")),
+              "x.json: registry[0].without: has nothing to leave out");
+}
+
+TEST(RegistryReader, RefusesAPropertyLeftOutThatIsNotThere) {
+    EXPECT_EQ(mistakeIn(deskWith("", R"(, "registry": [{"proxy": 2, "without": ["EDID UUID"]}])")),
+              "x.json: registry[0].without: \"EDID UUID\" is not a property of this entry");
+}
+
+TEST(RegistryReader, RefusesPropertiesThatAreNoObject) {
+    EXPECT_EQ(mistakeIn(deskWith("", R"(, "registry": [{"proxy": 2, "properties": []}])")),
+              "x.json: registry[0].properties: must be an object, not a list");
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/simulated/DeskFile.h"
+#include "platform/simulated/PersonalityReader.h"
 #include "simulated/DeskFileText.h"
 
 namespace vantrel::simulated {
@@ -75,7 +75,7 @@ const std::vector<Knob>& knobs() {
     return all;
 }
 
-TEST(DeskFilePersonality, IsWellBehavedUnlessItSaysOtherwise) {
+TEST(PersonalityReader, IsWellBehavedUnlessItSaysOtherwise) {
     Personality good;
     EXPECT_EQ(good.replyLatency, 40ms);
     EXPECT_EQ(good.capabilitiesLatency, 40ms);
@@ -85,7 +85,7 @@ TEST(DeskFilePersonality, IsWellBehavedUnlessItSaysOtherwise) {
     EXPECT_EQ(personalityWith(""), good);
 }
 
-TEST(DeskFilePersonality, EachKnobTurnsItsMemberAndNoOther) {
+TEST(PersonalityReader, EachKnobTurnsItsMemberAndNoOther) {
     for (const Knob& knob : knobs()) {
         SCOPED_TRACE(knob.key);
         Personality expected;
@@ -95,7 +95,7 @@ TEST(DeskFilePersonality, EachKnobTurnsItsMemberAndNoOther) {
     }
 }
 
-TEST(DeskFilePersonality, EveryKnobIsTriedHere) {
+TEST(PersonalityReader, EveryKnobIsTriedHere) {
     std::vector<std::string_view> tried;
     for (const Knob& knob : knobs()) tried.push_back(knob.key);
     for (const DeskFile::Words& words : DeskFile::vocabulary()) {
@@ -107,7 +107,7 @@ TEST(DeskFilePersonality, EveryKnobIsTriedHere) {
     FAIL() << "there is no vocabulary of personalities";
 }
 
-TEST(DeskFilePersonality, KnowsEveryKindOfReplyFault) {
+TEST(PersonalityReader, KnowsEveryKindOfReplyFault) {
     using Kind = ReplyFault::Kind;
     const std::vector<std::pair<std::string, Kind>> kinds{{"wrongChecksum", Kind::wrongChecksum},
                                                           {"previousCode", Kind::previousCode},
@@ -127,7 +127,7 @@ TEST(DeskFilePersonality, KnowsEveryKindOfReplyFault) {
     }
 }
 
-TEST(DeskFilePersonality, KnowsEveryKindOfFragmentFault) {
+TEST(PersonalityReader, KnowsEveryKindOfFragmentFault) {
     using Kind = FragmentFault::Kind;
     const std::vector<std::pair<std::string, Kind>> kinds{{"wrongChecksum", Kind::wrongChecksum},
                                                           {"damagedHeader", Kind::damagedHeader},
@@ -140,7 +140,7 @@ TEST(DeskFilePersonality, KnowsEveryKindOfFragmentFault) {
     }
 }
 
-TEST(DeskFilePersonality, KnowsEveryUnsupportedReply) {
+TEST(PersonalityReader, KnowsEveryUnsupportedReply) {
     const std::vector<std::pair<std::string, UnsupportedReply>> replies{
         {"resultCode", UnsupportedReply::resultCode},
         {"nullMessage", UnsupportedReply::nullMessage},
@@ -152,17 +152,89 @@ TEST(DeskFilePersonality, KnowsEveryUnsupportedReply) {
     }
 }
 
-TEST(DeskFilePersonality, ReadsOccurrences) {
-    const auto nak = [](const std::string& value) { return personalityWith(R"("nak": )" + value).nak; };
-    EXPECT_EQ(nak("false"), (Occurrence{0, 0, 0}));
-    EXPECT_EQ(nak("true"), (Occurrence{0, 1, 0}));
-    EXPECT_EQ(nak("0"), (Occurrence{0, 0, 0}));
-    EXPECT_EQ(nak("0.25"), (Occurrence{0.25, 0, 0}));
-    EXPECT_EQ(nak("1"), (Occurrence{1, 0, 0}));
-    EXPECT_EQ(nak(R"({"every": 3})"), (Occurrence{0, 3, 0}));
-    EXPECT_EQ(nak(R"({"first": 3})"), (Occurrence{0, 0, 3}));
-    EXPECT_EQ(nak(R"({"probability": 0.5, "every": 4, "first": 2})"), (Occurrence{0.5, 4, 2}));
-    EXPECT_EQ(nak("{}"), (Occurrence{0, 0, 0}));
+TEST(PersonalityReader, RefusesAnUnknownFieldDeepInside) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("inputSwitch": {"time": 4})")),
+              "x.json: displays[0].monitor.personality.inputSwitch.time: is not a known field");
+}
+
+TEST(PersonalityReader, RefusesAnUnknownKindOfReplyFault) {
+    EXPECT_EQ(
+        mistakeIn(deskWithPersonality(R"("replyFaults": [{"kind": "cut"}, {"kind": "sharp"}])")),
+        "x.json: displays[0].monitor.personality.replyFaults[1].kind: \"sharp\" is not one of wrongChecksum, "
+        "previousCode, lostFirstBytes, doubledSource, doubledLength, lengthNine, cut, echo, nullMessage, "
+        "rotatedNulls, constantBytes, lastValue");
+}
+
+TEST(PersonalityReader, RefusesAReplyFaultWithoutAKind) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("replyFaults": [{}])")),
+              "x.json: displays[0].monitor.personality.replyFaults[0].kind: is missing");
+}
+
+TEST(PersonalityReader, RefusesAReplyFaultBeyondTheReply) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("replyFaults": [{"kind": "cut", "bytes": 12}])")),
+              "x.json: displays[0].monitor.personality.replyFaults[0].bytes: 12 is more than 11");
+}
+
+TEST(PersonalityReader, RefusesAReplyFaultThatNamesACodeTwice) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("replyFaults": [{"kind": "cut", "codes": [16, "0x10"]}])")),
+              "x.json: displays[0].monitor.personality.replyFaults[0].codes[1]: is there already");
+}
+
+TEST(PersonalityReader, RefusesAnUnknownKindOfFragmentFault) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("fragmentFaults": [{"kind": "cut"}])")),
+              "x.json: displays[0].monitor.personality.fragmentFaults[0].kind: \"cut\" is not one of "
+              "wrongChecksum, "
+              "damagedHeader, wrongOffset, nullMessage");
+}
+
+TEST(PersonalityReader, RefusesAFragmentFaultWithoutAKind) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("fragmentFaults": [{"when": true}])")),
+              "x.json: displays[0].monitor.personality.fragmentFaults[0].kind: is missing");
+}
+
+TEST(PersonalityReader, RefusesAnUnknownUnsupportedReply) {
+    EXPECT_EQ(
+        mistakeIn(deskWithPersonality(R"("unsupported": "no")")),
+        "x.json: displays[0].monitor.personality.unsupported: \"no\" is not one of resultCode, nullMessage, "
+        "lastValue, zeros, nak");
+}
+
+TEST(PersonalityReader, RefusesASpanWithoutALength) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("nakDuring": [{"fromMs": 1}])")),
+              "x.json: displays[0].monitor.personality.nakDuring[0].lengthMs: is missing");
+}
+
+TEST(PersonalityReader, RefusesASpanWithoutAStart) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("nakDuring": [{"lengthMs": 1}])")),
+              "x.json: displays[0].monitor.personality.nakDuring[0].fromMs: is missing");
+}
+
+TEST(PersonalityReader, RefusesAMonitorThatNeedsNoWrites) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("writesNeeded": 0)")),
+              "x.json: displays[0].monitor.personality.writesNeeded: 0 is less than 1");
+}
+
+TEST(PersonalityReader, RefusesAFragmentWithoutBytes) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("fragmentSizeBytes": 0)")),
+              "x.json: displays[0].monitor.personality.fragmentSizeBytes: 0 is less than 1");
+}
+
+TEST(PersonalityReader, RefusesAFragmentLongerThanAllowed) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("fragmentSizeBytes": 33)")),
+              "x.json: displays[0].monitor.personality.fragmentSizeBytes: 33 is more than 32");
+}
+
+TEST(PersonalityReader, RefusesAReadingThatIsNamedByNoInput) {
+    EXPECT_EQ(mistakeIn(deskWithPersonality(R"("inputReadings": {"HDMI 1": 1})")),
+              "x.json: displays[0].monitor.personality.inputReadings[\"HDMI 1\"]: must be named by an input "
+              "value like "
+              "0x0F");
+}
+
+TEST(PersonalityReader, RefusesAnInputThatIsReadInTwoWays) {
+    EXPECT_EQ(
+        mistakeIn(deskWithPersonality(R"("inputReadings": {"0x0F": 1, "0xF": 2})")),
+        "x.json: displays[0].monitor.personality.inputReadings.0xF: names the same input as another key");
 }
 
 }  // namespace
