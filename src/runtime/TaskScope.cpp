@@ -18,6 +18,8 @@ void TaskHandle::cancel() const {
     if (const auto cancellation = state_.lock()) cancellation->request();
 }
 
+TaskScope::TaskScope(MainLoop& loop) : loop_(loop) {}
+
 TaskScope::~TaskScope() {
     for (const auto& entry : entries_) loop_.cancel(entry->step);
 }

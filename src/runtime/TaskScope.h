@@ -31,7 +31,7 @@ class TaskHandle {
 
 class TaskScope {
   public:
-    explicit TaskScope(MainLoop& loop) : loop_(loop) {}
+    explicit TaskScope(MainLoop& loop);
     TaskScope(const TaskScope&) = delete;
     TaskScope& operator=(const TaskScope&) = delete;
     ~TaskScope();
