@@ -26,7 +26,7 @@ class DDCChannelCapabilitiesTest : public ChannelTest {
     // A monitor whose string never ends comes in fragments of this size.
     void endlessFragments(unsigned size) {
         monitor.everyOtherReply([this, size] {
-            const Bytes request = bus.journal.events(Kind::write).back().bytes;
+            const Bytes request = bus.journal.last(Kind::write).bytes;
             const unsigned offset = request.at(2) * 256U + request.at(3);
             bus.journal.clear();
             ++requests;
@@ -264,7 +264,7 @@ TEST_F(DDCChannelCapabilitiesTest, LastFragmentMayCarryTheStringPastTheCap) {
 
 TEST_F(DDCChannelCapabilitiesTest, DroppedBytesCountTowardsTheCap) {
     monitor.everyOtherReply([this] {
-        const Bytes request = bus.journal.events(Kind::write).back().bytes;
+        const Bytes request = bus.journal.last(Kind::write).bytes;
         bus.journal.clear();
         ++requests;
         return test::ScriptedService::Reply{

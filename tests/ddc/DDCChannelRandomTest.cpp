@@ -65,7 +65,7 @@ class RandomDesk {
     }
 
     Bytes reply() {
-        const Bytes request = bus.journal.events(BusEvent::Kind::write).back().bytes;
+        const Bytes request = bus.journal.last(BusEvent::Kind::write).bytes;
         if (request.at(1) == 0x01) {
             if (below(8) == 0) return test::unsupportedReply(code);
             return test::readingReply(code, static_cast<unsigned>(below(65536)),
@@ -150,7 +150,7 @@ TEST(DDCChannelRandom, ReadingIsThatOfTheLastReply) {
         RandomDesk desk(seed);
         const Result result = desk.channel.read(code, 1 + desk.below(6));
         if (result.kind != Result::Kind::value) return;
-        const Bytes reply = desk.bus.journal.events(BusEvent::Kind::read).back().bytes;
+        const Bytes reply = desk.bus.journal.last(BusEvent::Kind::read).bytes;
         EXPECT_EQ(result.reading.maximum, reply.at(6) * 256 + reply.at(7));
         EXPECT_EQ(result.reading.current, reply.at(8) * 256 + reply.at(9));
     });
