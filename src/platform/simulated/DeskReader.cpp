@@ -10,8 +10,10 @@
 #include "platform/simulated/RegistryReader.h"
 #include "platform/simulated/ValueReaders.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::DeskReader {
 namespace {
+
+using namespace ValueReaders;
 
 using platform::DisplayID;
 
@@ -34,7 +36,7 @@ std::optional<float> brightness(const JSONPlace& place) {
 
 std::optional<std::optional<MonitorPlan>> monitor(const JSONPlace& place) {
     if (place.value().is_null()) return std::optional<MonitorPlan>();
-    return readMonitor(place);
+    return MonitorReader::read(place);
 }
 
 const ObjectShape<DisplayPlan>& displayShape() {
@@ -67,7 +69,7 @@ std::optional<std::vector<DisplayPlan>> displays(const JSONPlace& place) {
     std::vector<DisplayPlan> result;
     std::map<DisplayID, std::size_t> indexOfID;
     std::optional<std::size_t> builtIn;
-    const auto named = [](std::size_t index) { return elementPlace("displays", index); };
+    const auto named = [](std::size_t index) { return JSONText::elementPlace("displays", index); };
     for (const JSONPlace& element : place.elements()) {
         const std::size_t index = result.size();
         std::optional<DisplayPlan> display = displayShape()(element);
@@ -93,7 +95,7 @@ std::optional<std::string> privateFunction(const JSONPlace& place) {
     std::optional<std::string> name = place.text();
     if (name && std::find(std::begin(privateFunctions), std::end(privateFunctions), *name) ==
                     std::end(privateFunctions)) {
-        place.report(inQuotes(*name) + " is not the name of a private function");
+        place.report(JSONText::inQuotes(*name) + " is not the name of a private function");
     }
     return name;
 }
@@ -110,7 +112,8 @@ const ObjectShape<Desk>& deskShape() {
             // Names displays, so it comes after them.
             {"registry",
              [](const JSONPlace& place, Desk& desk) {
-                 if (auto entries = readRegistry(place, desk.displays)) desk.registry = *std::move(entries);
+                 if (auto entries = RegistryReader::read(place, desk.displays))
+                     desk.registry = *std::move(entries);
              }},
             {"missingSymbols", into(&Desk::missingSymbols, listOf(privateFunction))},
         },
@@ -122,13 +125,13 @@ const ObjectShape<Desk>& deskShape() {
 
 }  // namespace
 
-Desk readDesk(const JSONPlace& root) { return deskShape()(root).value_or(Desk{}); }
+Desk read(const JSONPlace& root) { return deskShape()(root).value_or(Desk{}); }
 
-std::vector<DeskFile::Words> deskVocabulary() {
+std::vector<DeskFile::Words> vocabulary() {
     std::vector<DeskFile::Words> result{deskShape().words(), displayShape().words()};
-    for (DeskFile::Words& words : monitorVocabulary()) result.push_back(std::move(words));
-    for (DeskFile::Words& words : registryVocabulary()) result.push_back(std::move(words));
+    for (DeskFile::Words& words : MonitorReader::vocabulary()) result.push_back(std::move(words));
+    for (DeskFile::Words& words : RegistryReader::vocabulary()) result.push_back(std::move(words));
     return result;
 }
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::DeskReader

@@ -8,8 +8,10 @@
 #include "platform/simulated/ValueReaders.h"
 #include "text/Hex.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::MonitorReader {
 namespace {
+
+using namespace ValueReaders;
 
 constexpr std::uint8_t inputSelect = 0x60;
 // The offset of a capabilities request has 16 bits.
@@ -111,7 +113,7 @@ const ObjectShape<MonitorPlan>& monitorShape() {
             {"capabilities", into(&MonitorPlan::capabilities, capabilities)},
             {"features", into(&MonitorPlan::features, features)},
             {"inputs", into(&MonitorPlan::inputs, inputShape())},
-            {"personality", into(&MonitorPlan::personality, readPersonality)},
+            {"personality", into(&MonitorPlan::personality, PersonalityReader::read)},
         },
         checkMonitor};
     return shape;
@@ -119,12 +121,12 @@ const ObjectShape<MonitorPlan>& monitorShape() {
 
 }  // namespace
 
-std::optional<MonitorPlan> readMonitor(const JSONPlace& place) { return monitorShape()(place); }
+std::optional<MonitorPlan> read(const JSONPlace& place) { return monitorShape()(place); }
 
-std::vector<DeskFile::Words> monitorVocabulary() {
+std::vector<DeskFile::Words> vocabulary() {
     std::vector<DeskFile::Words> result{monitorShape().words(), featureShape().words(), inputShape().words()};
-    for (DeskFile::Words& words : personalityVocabulary()) result.push_back(std::move(words));
+    for (DeskFile::Words& words : PersonalityReader::vocabulary()) result.push_back(std::move(words));
     return result;
 }
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::MonitorReader
