@@ -126,6 +126,13 @@ TEST_F(AVServiceLocatorTest, IllFormedNamesAreNeitherFramebuffersNorLinks) {
     EXPECT_THAT(identities(), ElementsAre(none));
 }
 
+TEST_F(AVServiceLocatorTest, NamesEndAtTheirFirstNUL) {
+    framebuffer(left, "AppleCLCD2\0shim"s);
+    proxy({{"Location", "External"s}}, "DCPAVServiceProxy\0\xFF"s);
+    proxy({{"Location", "External"s}}, "\0DCPAVServiceProxy"s);
+    EXPECT_THAT(identities(), ElementsAre(left));
+}
+
 TEST_F(AVServiceLocatorTest, LinksAreInRegistryOrder) {
     framebuffer(right);
     proxy();
