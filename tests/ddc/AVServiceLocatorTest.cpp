@@ -11,7 +11,6 @@ namespace {
 using namespace std::string_literals;
 
 using platform::PropertyDictionary;
-using platform::PropertyValue;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;

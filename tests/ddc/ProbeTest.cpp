@@ -36,17 +36,14 @@ Result probe(std::string_view deskFile) {
 }
 
 TEST(Probe, CountsNoServicesOnAnEmptyDesk) {
-    EXPECT_EQ(probe(R"({"title": "t", "displays": []})").output, "External AV services: 0\n");
+    EXPECT_EQ(probe(R"json({"title": "t", "displays": []})json").output, "External AV services: 0\n");
 }
 
 TEST(Probe, PrintsIdentityFourReadingsAndTheCapabilities) {
-    const Result result = probe(R"({"title": "t", "displays": [
+    const Result result = probe(R"json({"title": "t", "displays": [
         {"id": 2, "name": "Lumo 24", "vendor": 4660, "product": 22136, "serial": 99, "monitor": {
             "features": {"0x10": {"current": 50, "maximum": 100}, "0x60": {"current": 15, "maximum": 18}},
-            "capabilities": "(vcp(10 60))"
-}
-}]
-})");
+            "capabilities": "(vcp(10 60))"}}]})json");
     EXPECT_EQ(result.output,
               "External AV services: 1\n"
               "Lumo 24 (EDID 12347856-0000-0000-0000-000000000000, serial 99)\n"
@@ -58,19 +55,19 @@ TEST(Probe, PrintsIdentityFourReadingsAndTheCapabilities) {
 }
 
 TEST(Probe, CallsAMonitorWithoutAnIdentityAMonitor) {
-    const Result result = probe(R"({"title": "t", "registry": [{"proxy": 2}], "displays": [
-        {"id": 2, "name": "Lumo 24", "vendor": 1, "product": 2, "monitor": {}}]})");
+    const Result result = probe(R"json({"title": "t", "registry": [{"proxy": 2}], "displays": [
+        {"id": 2, "name": "Lumo 24", "vendor": 1, "product": 2, "monitor": {}}]})json");
     EXPECT_NE(result.output.find("\nmonitor (EDID none, serial none)\n"), std::string::npos) << result.output;
     ASSERT_FALSE(result.log.empty());
     EXPECT_EQ(result.log.front().text, "monitor read 0x10: unsupported");
 }
 
 TEST(Probe, GoesOnAfterAMonitorThatNeverAnswers) {
-    const Result result = probe(R"({"title": "t", "displays": [
+    const Result result = probe(R"json({"title": "t", "displays": [
         {"id": 2, "name": "Dead", "vendor": 1, "product": 2, "serial": 1,
          "monitor": {"personality": {"dead": true}}},
         {"id": 3, "name": "Good", "vendor": 1, "product": 3, "serial": 2,
-         "monitor": {"features": {"0x62": {"current": 7, "maximum": 9}}}}]})");
+         "monitor": {"features": {"0x62": {"current": 7, "maximum": 9}}}}]})json");
     EXPECT_NE(result.output.find("VCP 0x10: failed\n"
                                  "VCP 0x12: failed\n"
                                  "VCP 0x60: failed\n"
@@ -85,8 +82,8 @@ TEST(Probe, GoesOnAfterAMonitorThatNeverAnswers) {
 }
 
 TEST(Probe, ReadsEachCodeUpToFourTimes) {
-    const Result result = probe(R"({"title": "t", "displays": [
-        {"id": 2, "name": "Dead", "vendor": 1, "product": 2, "monitor": {"personality": {"dead": true}}}]})");
+    const Result result = probe(R"json({"title": "t", "displays": [
+        {"id": 2, "name": "Dead", "vendor": 1, "product": 2, "monitor": {"personality": {"dead": true}}}]})json");
     ASSERT_FALSE(result.log.empty());
     std::size_t failures = 0;
     for (const test::LogLine& line : result.log) {
@@ -95,11 +92,11 @@ TEST(Probe, ReadsEachCodeUpToFourTimes) {
     EXPECT_EQ(failures, 4U);
 }
 
-constexpr const char* misreportingMonitor = R"({"title": "t", "displays": [
+constexpr const char* misreportingMonitor = R"json({"title": "t", "displays": [
     {"id": 1, "name": "Panel", "vendor": 1138, "product": 1922, "isBuiltIn": true},
     {"id": 2, "name": "Other", "vendor": 1, "product": 2, "serial": 5, "monitor": {}},
     {"id": 3, "name": "Wrong", "vendor": 1138, "product": 1922, "serial": 6, "monitor": {
-        "features": {"0x60": {"current": %, "maximum": 18}}}}]})";
+        "features": {"0x60": {"current": %, "maximum": 18}}}}]})json";
 
 std::string profileLines(const std::string& rawInput) {
     std::string desk = misreportingMonitor;
@@ -128,15 +125,15 @@ TEST(Probe, PrintsOneProfileOnlyForTheExternalDisplayThatHasOne) {
 }
 
 TEST(Probe, LeavesTheCurrentInputOutWhenItCantBeRead) {
-    const Result result = probe(R"({"title": "t", "displays": [
-        {"id": 3, "name": "Wrong", "vendor": 1138, "product": 1922, "monitor": {"personality": {"dead": true}}}]})");
+    const Result result = probe(R"json({"title": "t", "displays": [
+        {"id": 3, "name": "Wrong", "vendor": 1138, "product": 1922, "monitor": {"personality": {"dead": true}}}]})json");
     EXPECT_NE(result.output.find("Input profile: "), std::string::npos);
     EXPECT_EQ(result.output.find("Current input"), std::string::npos);
 }
 
 TEST(Probe, GivesEveryServiceBack) {
-    EXPECT_EQ(probe(R"({"title": "t", "displays": [
-        {"id": 3, "name": "Any", "vendor": 1, "product": 2, "monitor": {}}]})")
+    EXPECT_EQ(probe(R"json({"title": "t", "displays": [
+        {"id": 3, "name": "Any", "vendor": 1, "product": 2, "monitor": {}}]})json")
                   .servicesLeft,
               0U);
 }
