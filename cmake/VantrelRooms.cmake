@@ -7,7 +7,8 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 add_library(vantrel_options INTERFACE)
-target_compile_options(vantrel_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+# The presets for development make warnings errors (CMAKE_COMPILE_WARNING_AS_ERROR).
+target_compile_options(vantrel_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
 if(VANTREL_SANITIZERS)
   add_compile_options(-fsanitize=${VANTREL_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${VANTREL_SANITIZERS})

@@ -1,7 +1,8 @@
 """What g++ 12 compiles wrongly, or what dies too early, in coroutines.
 
-g++ 12 destroys a braced object or a capturing lambda twice when it is written
-inside an expression that awaits: name it first. The captures of a lambda that
+g++ 12 destroys a braced aggregate (an empty one too) or a capturing lambda twice
+when it is written in a statement that awaits: name it first. (A class with a
+constructor is safe, and can be written with parentheses.) The captures of a lambda that
 is a coroutine itself die with the lambda, while the coroutine goes on."""
 
 import re

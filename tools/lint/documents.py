@@ -18,8 +18,9 @@ def check(tree):
         findings.append(Finding("LICENSE", 1, "is not the MIT License"))
     for path in tree.paths(".md"):
         findings += _document(tree, path)
+    readme = tree.text("README.md") if tree.exists("README.md") else ""
     for command in ("script/run", "script/test"):
-        if command not in tree.text("README.md"):
+        if command not in readme:
             findings.append(Finding("README.md", 1, f"does not show {command}"))
     return findings
 

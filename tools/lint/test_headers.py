@@ -42,9 +42,13 @@ class HeadersTest(unittest.TestCase):
         text = GOOD.replace("class DDCWorker {};", "").replace("vantrel::ddc", "vantrel::ddc::Probe")
         self.assertEqual(reasons("src/ddc/Probe.h", text), [])
 
-    def test_free_functions_may_carry_the_name(self):
-        text = GOOD.replace("class DDCWorker {};", "std::string upperHex(int value);")
-        self.assertEqual(reasons("src/ddc/Hex.h", text), [])
+    def test_free_functions_are_named_after_their_subject(self):
+        text = GOOD.replace("class DDCWorker {};", "Bytes requestPacket(int value);")
+        self.assertEqual(reasons("src/ddc/DDCFrame.h", text), [])
+
+    def test_a_subject_of_several_types_is_an_exception(self):
+        path = next(iter(headers.NAMED_AFTER_SUBJECT))
+        self.assertEqual(reasons(path, GOOD.replace("vantrel::ddc", "vantrel::simulated")), [])
 
     def test_the_namespace_is_the_folder(self):
         (reason,) = reasons("src/mccs/DDCWorker.h", GOOD)

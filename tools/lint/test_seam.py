@@ -65,6 +65,17 @@ class SeamTest(unittest.TestCase):
         for path in ("src/runtime/RealScheduler.cpp", "src/platform/simulated/VirtualTime.h"):
             self.assertEqual(findings(path, "\n".join(BAD)), [])
 
+    def test_an_exception_is_for_one_thing(self):
+        path = "tests/simulated/VirtualTimeTest.cpp"
+        self.assertEqual(findings(path, "std::thread thread(body);"), [])
+        self.assertEqual(len(findings(path, "usleep(50);")), 1)
+
+    def test_a_test_may_use_an_engine_whose_seed_it_shows(self):
+        engine = "std::mt19937_64 random(seed);\n"
+        self.assertEqual(findings("tests/ddc/ATest.cpp", seam.SEEDS + "\n" + engine), [])
+        self.assertEqual(len(findings("tests/ddc/ATest.cpp", engine)), 1)
+        self.assertEqual(len(findings("src/ddc/A.cpp", seam.SEEDS + "\n" + engine)), 1)
+
     def test_the_finding_names_the_line(self):
         (finding,) = findings("src/a/B.h", "\n/*\n*/ int x = rand();\n")
         self.assertEqual(finding.line, 3)

@@ -14,6 +14,16 @@ class TestedTest(unittest.TestCase):
     def test_a_source_with_its_test_is_good(self):
         self.assertEqual(self.count(SOURCE | TEST), 0)
 
+    def test_a_test_may_add_an_aspect_to_the_name(self):
+        self.assertEqual(self.count(SOURCE | {"tests/simulated/DeskPlugTest.cpp": ""}), 0)
+
+    def test_a_test_belongs_to_the_longest_name_that_fits(self):
+        other = {"src/platform/simulated/DeskFile.h": "", "tests/simulated/DeskFileTest.cpp": ""}
+        self.assertEqual(self.count(SOURCE | other), 1)
+
+    def test_a_test_of_another_room_does_not_count(self):
+        self.assertEqual(self.count(SOURCE | {"tests/ddc/DeskTest.cpp": ""}), 1)
+
     def test_a_source_without_a_test_is_found(self):
         self.assertEqual(self.count(SOURCE), 1)
 

@@ -12,7 +12,7 @@ RULES = [
     (r"DISABLE[D]_|GTEST_SKI[P]", "a test that is switched off"),
     (r"\bParts? [1-5]\.[1-6]\b", "points into a document that readers don't have: give the reason itself"),
     (r"\b[Tt]he spe[c](?:ification)?\b|\bper (?:the )?spe[c]\b", "names a document that readers don't have"),
-    (r"shared/spe[c]|/wor[k]/|/far[m]/|\.librar[y]\b|/hom[e]/\w|/User[s]/\w", "a path of one machine"),
+    (r"shared/spe[c]|/wor[k]/|/far[m]/|/\.librar[y]\b|/hom[e]/\w|/User[s]/\w", "a path of one machine"),
 ]
 RULES = [(re.compile(pattern), reason) for pattern, reason in RULES]
 

@@ -19,13 +19,13 @@ DeskFileError systemError(std::string file, int number) {
 }  // namespace
 
 DeskFileResult readText(std::string_view text, std::string_view file) {
-    auto parsed = parseJSON(text);
+    auto parsed = JSONText::parse(text);
     if (const auto* mistake = std::get_if<Mistake>(&parsed)) {
         return DeskFileError{std::string(file), mistake->place, mistake->reason};
     }
     std::optional<Mistake> mistake;
     const JSONPlace root(std::get<nlohmann::json>(parsed), mistake);
-    Desk desk = readDesk(root);
+    Desk desk = DeskReader::read(root);
     if (mistake) return DeskFileError{std::string(file), mistake->place, mistake->reason};
     return desk;
 }
@@ -47,6 +47,6 @@ DeskFileResult readFile(const std::filesystem::path& path) {
     return readText(text, name);
 }
 
-std::vector<Words> vocabulary() { return deskVocabulary(); }
+std::vector<Words> vocabulary() { return DeskReader::vocabulary(); }
 
 }  // namespace vantrel::simulated::DeskFile

@@ -10,11 +10,15 @@
 #include "platform/simulated/RegistryReader.h"
 #include "platform/simulated/ValueReaders.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::DeskReader {
 namespace {
+
+using namespace ValueReaders;
 
 using platform::DisplayID;
 
+// Far more than any computer has.
+constexpr std::size_t mostDisplays = 256;
 constexpr unsigned mostPixels = 65535;
 constexpr std::uint32_t largestTransferTable = 65536;
 
@@ -34,7 +38,7 @@ std::optional<float> brightness(const JSONPlace& place) {
 
 std::optional<std::optional<MonitorPlan>> monitor(const JSONPlace& place) {
     if (place.value().is_null()) return std::optional<MonitorPlan>();
-    return readMonitor(place);
+    return MonitorReader::read(place);
 }
 
 const ObjectShape<DisplayPlan>& displayShape() {
@@ -67,7 +71,7 @@ std::optional<std::vector<DisplayPlan>> displays(const JSONPlace& place) {
     std::vector<DisplayPlan> result;
     std::map<DisplayID, std::size_t> indexOfID;
     std::optional<std::size_t> builtIn;
-    const auto named = [](std::size_t index) { return elementPlace("displays", index); };
+    const auto named = [](std::size_t index) { return JSONText::elementPlace("displays", index); };
     for (const JSONPlace& element : place.elements()) {
         const std::size_t index = result.size();
         std::optional<DisplayPlan> display = displayShape()(element);
@@ -79,6 +83,10 @@ std::optional<std::vector<DisplayPlan>> displays(const JSONPlace& place) {
         }
         if (display->isBuiltIn) builtIn = index;
         result.push_back(*std::move(display));
+    }
+    if (result.size() > mostDisplays) {
+        place.report("has more than " + std::to_string(mostDisplays) + " displays");
+        return std::nullopt;
     }
     return result;
 }
@@ -93,7 +101,7 @@ std::optional<std::string> privateFunction(const JSONPlace& place) {
     std::optional<std::string> name = place.text();
     if (name && std::find(std::begin(privateFunctions), std::end(privateFunctions), *name) ==
                     std::end(privateFunctions)) {
-        place.report(inQuotes(*name) + " is not the name of a private function");
+        place.report(JSONText::inQuotes(*name) + " is not the name of a private function");
     }
     return name;
 }
@@ -110,7 +118,8 @@ const ObjectShape<Desk>& deskShape() {
             // Names displays, so it comes after them.
             {"registry",
              [](const JSONPlace& place, Desk& desk) {
-                 if (auto entries = readRegistry(place, desk.displays)) desk.registry = *std::move(entries);
+                 if (auto entries = RegistryReader::read(place, desk.displays))
+                     desk.registry = *std::move(entries);
              }},
             {"missingSymbols", into(&Desk::missingSymbols, listOf(privateFunction))},
         },
@@ -122,13 +131,13 @@ const ObjectShape<Desk>& deskShape() {
 
 }  // namespace
 
-Desk readDesk(const JSONPlace& root) { return deskShape()(root).value_or(Desk{}); }
+Desk read(const JSONPlace& root) { return deskShape()(root).value_or(Desk{}); }
 
-std::vector<DeskFile::Words> deskVocabulary() {
+std::vector<DeskFile::Words> vocabulary() {
     std::vector<DeskFile::Words> result{deskShape().words(), displayShape().words()};
-    for (DeskFile::Words& words : monitorVocabulary()) result.push_back(std::move(words));
-    for (DeskFile::Words& words : registryVocabulary()) result.push_back(std::move(words));
+    for (DeskFile::Words& words : MonitorReader::vocabulary()) result.push_back(std::move(words));
+    for (DeskFile::Words& words : RegistryReader::vocabulary()) result.push_back(std::move(words));
     return result;
 }
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::DeskReader

@@ -8,9 +8,9 @@
 #include "platform/simulated/DeskFile.h"
 #include "platform/simulated/JSONPlace.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::DeskReader {
 
-Desk readDesk(const JSONPlace& root);
-std::vector<DeskFile::Words> deskVocabulary();
+Desk read(const JSONPlace& root);
+std::vector<DeskFile::Words> vocabulary();
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::DeskReader

@@ -76,7 +76,7 @@ std::optional<std::uint64_t> JSONPlace::wholeNumber(std::uint64_t minimum, std::
     if (value_->is_string() && notation == Notation::decimalOrHexadecimal) {
         shown = value_->get<std::string>();
         result = parseHexadecimal(shown, longest);
-        if (!result) report(inQuotes(shown) + " is not a hexadecimal number like \"0x1A\"");
+        if (!result) report(JSONText::inQuotes(shown) + " is not a hexadecimal number like \"0x1A\"");
     } else if (value_->is_number()) {
         shown = value_->dump();
         const double approximate = value_->get<double>();
@@ -119,7 +119,7 @@ std::optional<std::string> JSONPlace::bytes() const {
     const std::optional<std::string> digits = hex.text();
     if (!digits) return std::nullopt;
     std::optional<std::string> result = parseHexBytes(*digits);
-    if (!result) hex.report(inQuotes(*digits) + " is not pairs of hexadecimal digits");
+    if (!result) hex.report(JSONText::inQuotes(*digits) + " is not pairs of hexadecimal digits");
     return result;
 }
 
@@ -130,7 +130,7 @@ std::vector<JSONPlace> JSONPlace::elements() const {
         return result;
     }
     for (const json& element : *value_) {
-        result.push_back(JSONPlace(element, elementPlace(path_, result.size()), *mistake_));
+        result.push_back(JSONPlace(element, JSONText::elementPlace(path_, result.size()), *mistake_));
     }
     return result;
 }
@@ -151,7 +151,7 @@ bool JSONPlace::has(const std::string& key) const { return value_->is_object() &
 
 JSONPlace JSONPlace::member(const std::string& key) const {
     static const json absent;
-    return {has(key) ? value_->at(key) : absent, memberPlace(path_, key), *mistake_};
+    return {has(key) ? value_->at(key) : absent, JSONText::memberPlace(path_, key), *mistake_};
 }
 
 void JSONPlace::report(std::string reason) const {

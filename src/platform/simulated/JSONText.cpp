@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::JSONText {
 namespace {
 
 using nlohmann::json;
@@ -79,9 +79,9 @@ class TreeBuilder : public nlohmann::json_sax<json> {
 
     bool open(json value) {
         std::string place = nextPlace();
-        if (open_.size() == maximumJSONDepth) {
+        if (open_.size() == maximumDepth) {
             return fail(std::move(place),
-                        "is nested deeper than " + std::to_string(maximumJSONDepth) + " levels");
+                        "is nested deeper than " + std::to_string(maximumDepth) + " levels");
         }
         open_.push_back({add(std::move(value)), std::move(place), {}});
         return true;
@@ -115,7 +115,11 @@ bool isPlain(char character) {
 
 }  // namespace
 
-std::variant<json, Mistake> parseJSON(std::string_view text) {
+std::variant<json, Mistake> parse(std::string_view text) {
+    // The parser takes a NUL for the end of the text.
+    if (const std::size_t nul = text.find('\0'); nul != std::string_view::npos) {
+        return Mistake{lineAndColumn(text, nul + 1), "unexpected NUL byte"};
+    }
     TreeBuilder builder(text);
     json::sax_parse(text, &builder);
     if (builder.mistake) return *std::move(builder.mistake);
@@ -142,4 +146,4 @@ std::string inQuotes(const std::string& text) {
     return result;
 }
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::JSONText

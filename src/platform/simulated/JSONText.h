@@ -9,12 +9,12 @@
 
 #include "platform/simulated/Mistake.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::JSONText {
 
 // Objects and lists within each other, the outermost included.
-constexpr std::size_t maximumJSONDepth = 32;
+constexpr std::size_t maximumDepth = 32;
 
-std::variant<nlohmann::json, Mistake> parseJSON(std::string_view text);
+std::variant<nlohmann::json, Mistake> parse(std::string_view text);
 
 // The place of a member or element below `parent`, for a person.
 std::string memberPlace(const std::string& parent, const std::string& key);
@@ -23,4 +23,4 @@ std::string elementPlace(const std::string& parent, std::size_t index);
 // A text from the file as part of a message: quoted, on one line, not too long.
 std::string inQuotes(const std::string& text);
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::JSONText

@@ -2,14 +2,17 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <set>
 
 #include "platform/simulated/ObjectShape.h"
 #include "platform/simulated/PersonalityReader.h"
 #include "platform/simulated/ValueReaders.h"
 #include "text/Hex.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::MonitorReader {
 namespace {
+
+using namespace ValueReaders;
 
 constexpr std::uint8_t inputSelect = 0x60;
 // The offset of a capabilities request has 16 bits.
@@ -51,11 +54,11 @@ std::optional<std::map<std::uint8_t, FeaturePlan>> features(const JSONPlace& pla
 
 std::optional<std::vector<std::uint16_t>> availableInputs(const JSONPlace& place) {
     std::vector<std::uint16_t> result;
+    std::set<std::uint16_t> seen;
     for (const JSONPlace& element : place.elements()) {
         const auto input = code<std::uint16_t>(element);
         if (!input) continue;
-        if (std::find(result.begin(), result.end(), *input) != result.end())
-            element.report("is there already");
+        if (!seen.insert(*input).second) element.report("is there already");
         result.push_back(*input);
     }
     if (result.empty()) {
@@ -111,7 +114,7 @@ const ObjectShape<MonitorPlan>& monitorShape() {
             {"capabilities", into(&MonitorPlan::capabilities, capabilities)},
             {"features", into(&MonitorPlan::features, features)},
             {"inputs", into(&MonitorPlan::inputs, inputShape())},
-            {"personality", into(&MonitorPlan::personality, readPersonality)},
+            {"personality", into(&MonitorPlan::personality, PersonalityReader::read)},
         },
         checkMonitor};
     return shape;
@@ -119,12 +122,12 @@ const ObjectShape<MonitorPlan>& monitorShape() {
 
 }  // namespace
 
-std::optional<MonitorPlan> readMonitor(const JSONPlace& place) { return monitorShape()(place); }
+std::optional<MonitorPlan> read(const JSONPlace& place) { return monitorShape()(place); }
 
-std::vector<DeskFile::Words> monitorVocabulary() {
+std::vector<DeskFile::Words> vocabulary() {
     std::vector<DeskFile::Words> result{monitorShape().words(), featureShape().words(), inputShape().words()};
-    for (DeskFile::Words& words : personalityVocabulary()) result.push_back(std::move(words));
+    for (DeskFile::Words& words : PersonalityReader::vocabulary()) result.push_back(std::move(words));
     return result;
 }
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::MonitorReader

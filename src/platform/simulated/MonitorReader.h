@@ -8,9 +8,9 @@
 #include "platform/simulated/DeskFile.h"
 #include "platform/simulated/JSONPlace.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::MonitorReader {
 
-std::optional<MonitorPlan> readMonitor(const JSONPlace& place);
-std::vector<DeskFile::Words> monitorVocabulary();
+std::optional<MonitorPlan> read(const JSONPlace& place);
+std::vector<DeskFile::Words> vocabulary();
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::MonitorReader

@@ -5,8 +5,10 @@
 #include "platform/simulated/ObjectShape.h"
 #include "platform/simulated/ValueReaders.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::PersonalityReader {
 namespace {
+
+using namespace ValueReaders;
 
 // DDC/CI: a Get VCP reply has 11 bytes, and a fragment at most 32 of the string.
 constexpr unsigned replySize = 11;
@@ -174,12 +176,12 @@ const ObjectShape<Personality>& personalityShape() {
 
 }  // namespace
 
-std::optional<Personality> readPersonality(const JSONPlace& place) { return personalityShape()(place); }
+std::optional<Personality> read(const JSONPlace& place) { return personalityShape()(place); }
 
-std::vector<DeskFile::Words> personalityVocabulary() {
+std::vector<DeskFile::Words> vocabulary() {
     return {personalityShape().words(), spanShape().words(),          replyFaultShape().words(),
             replyFaultKinds().words(),  fragmentFaultShape().words(), fragmentFaultKinds().words(),
             inputSwitchShape().words(), unsupportedReplies().words(), occurrenceShape().words()};
 }
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::PersonalityReader

@@ -8,9 +8,9 @@
 #include "platform/simulated/JSONPlace.h"
 #include "platform/simulated/Personality.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::PersonalityReader {
 
-std::optional<Personality> readPersonality(const JSONPlace& place);
-std::vector<DeskFile::Words> personalityVocabulary();
+std::optional<Personality> read(const JSONPlace& place);
+std::vector<DeskFile::Words> vocabulary();
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::PersonalityReader

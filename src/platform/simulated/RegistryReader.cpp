@@ -7,8 +7,10 @@
 #include "platform/simulated/ObjectShape.h"
 #include "platform/simulated/ValueReaders.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::RegistryReader {
 namespace {
+
+using namespace ValueReaders;
 
 using platform::DisplayID;
 using platform::PropertyDictionary;
@@ -99,8 +101,8 @@ std::optional<RegistryEntryPlan> defaultEntry(const JSONPlace& place, const Item
 
 }  // namespace
 
-std::optional<std::vector<RegistryEntryPlan>> readRegistry(const JSONPlace& place,
-                                                           const std::vector<DisplayPlan>& displays) {
+std::optional<std::vector<RegistryEntryPlan>> read(const JSONPlace& place,
+                                                   const std::vector<DisplayPlan>& displays) {
     std::vector<RegistryEntryPlan> result;
     for (const JSONPlace& element : place.elements()) {
         const std::optional<Item> item = itemShape()(element);
@@ -110,7 +112,8 @@ std::optional<std::vector<RegistryEntryPlan>> readRegistry(const JSONPlace& plac
         if (item->name) entry->name = *item->name;
         for (const std::string& key : item->without) {
             if (!removeProperty(entry->properties, key)) {
-                element.member("without").report(inQuotes(key) + " is not a property of this entry");
+                element.member("without").report(JSONText::inQuotes(key) +
+                                                 " is not a property of this entry");
             }
         }
         for (const auto& [key, value] : item->properties) entry->properties[key] = value;
@@ -119,6 +122,6 @@ std::optional<std::vector<RegistryEntryPlan>> readRegistry(const JSONPlace& plac
     return result;
 }
 
-std::vector<DeskFile::Words> registryVocabulary() { return {itemShape().words()}; }
+std::vector<DeskFile::Words> vocabulary() { return {itemShape().words()}; }
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::RegistryReader

@@ -8,10 +8,10 @@
 #include "platform/simulated/DeskFile.h"
 #include "platform/simulated/JSONPlace.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::RegistryReader {
 
-std::optional<std::vector<RegistryEntryPlan>> readRegistry(const JSONPlace& place,
-                                                           const std::vector<DisplayPlan>& displays);
-std::vector<DeskFile::Words> registryVocabulary();
+std::optional<std::vector<RegistryEntryPlan>> read(const JSONPlace& place,
+                                                   const std::vector<DisplayPlan>& displays);
+std::vector<DeskFile::Words> vocabulary();
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::RegistryReader

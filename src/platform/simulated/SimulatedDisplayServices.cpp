@@ -85,7 +85,7 @@ void SimulatedDisplayServices::cancelConfiguration(Configuration configuration) 
 }
 
 void SimulatedDisplayServices::onReconfiguration(ReconfigurationCallback callback) {
-    world_.onReconfiguration(std::move(callback));
+    world_.announcements().onReconfiguration(std::move(callback));
 }
 
 std::list<SimulatedDisplayServices::Changes>::iterator SimulatedDisplayServices::find(

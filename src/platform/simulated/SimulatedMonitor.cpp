@@ -10,17 +10,9 @@ namespace {
 
 using runtime::MonotonicTime;
 
-// The standard's code for "Input Select".
-constexpr std::uint8_t inputSelect = 0x60;
-
-// Payload lengths of the requests, command byte included.
-constexpr std::size_t getLength = 2;
-constexpr std::size_t setLength = 4;
-constexpr std::size_t capabilitiesLength = 3;
-
-std::uint16_t word(std::uint8_t high, std::uint8_t low) {
-    return static_cast<std::uint16_t>(high << 8 | low);
-}
+// Streams of a monitor's own randomness.
+constexpr std::uint64_t busStream = 0;
+constexpr std::uint64_t firmwareStream = 1;
 
 }  // namespace
 
@@ -33,7 +25,7 @@ class SimulatedMonitor::Transfer {
         {
             const std::lock_guard lock(monitor_.mutex_);
             if (overlaps) ++monitor_.counters_.overlaps;
-            busy = monitor_.personality_.byteTime * static_cast<Duration::rep>(bytes);
+            busy = monitor_.manner_.byteTime * static_cast<Duration::rep>(bytes);
         }
         if (busy > Duration::zero()) monitor_.clock_.sleepFor(busy);
     }
@@ -45,43 +37,27 @@ class SimulatedMonitor::Transfer {
     SimulatedMonitor& monitor_;
 };
 
-SimulatedMonitor::SimulatedMonitor(const MonitorPlan& plan, Random random, runtime::Clock& clock)
+SimulatedMonitor::SimulatedMonitor(const MonitorPlan& plan, const Random& random, runtime::Clock& clock)
     : clock_(clock),
       start_(clock.now()),
-      personality_(plan.personality),
-      random_(random),
-      naks_(plan.personality.nak),
-      table_(plan.features, plan.personality.writesRevertAfter),
-      filter_(plan.personality),
-      replier_(plan.personality),
-      capabilities_(plan.capabilities, plan.personality) {
-    if (plan.inputs) inputs_.emplace(*plan.inputs, plan.personality);
-}
+      random_(random.fork(busStream)),
+      firmware_(plan, random.fork(firmwareStream), counters_),
+      manner_{plan.personality.byteTime, plan.personality.dead, Occasions(plan.personality.nak),
+              plan.personality.nakDuring, plan.personality.staleAfterReconfiguration} {}
 
 std::int32_t SimulatedMonitor::write(std::uint32_t chip, std::uint32_t source,
                                      std::span<const std::uint8_t> bytes) {
     const Transfer transfer(*this, bytes.size());
     std::unique_lock lock(mutex_);
     const MonotonicTime now = clock_.now();
-    std::int32_t status = Status::success;
     ++counters_.writes;
-    if (!acknowledges(chip, now)) {
-        status = Status::notResponding;
-    } else {
-        const std::optional<Request> request = parseRequest(source, bytes);
-        const bool isSound = request && (request->hasRightChecksum || !personality_.ignoresWrongChecksums);
-        if (isSound && !isSilent(now)) {
-            status = receive(Bytes(bytes.begin(), bytes.end()), *request, now);
-        } else {
-            ++counters_.ignored;
-        }
-    }
-    if (isTracing_) {
-        record({now, WireRecord::Direction::write, Bytes(bytes.begin(), bytes.end()), status});
-    }
-    const std::optional<Pulse> pulse = std::exchange(newPulse_, std::nullopt);
+    MonitorFirmware::Received received{false, std::nullopt};
+    if (acknowledges(chip, now)) received = firmware_.receive(source, bytes, now);
+    if (!received.isAcknowledged) ++counters_.notAcknowledged;
+    const std::int32_t status = received.isAcknowledged ? Status::success : Status::notResponding;
+    record({now, WireRecord::Direction::write, Bytes(bytes.begin(), bytes.end()), status});
     lock.unlock();
-    if (pulse && pulseListener_) pulseListener_(*pulse);
+    if (received.pulse && pulseListener_) pulseListener_(*received.pulse);
     return status;
 }
 
@@ -89,110 +65,103 @@ std::int32_t SimulatedMonitor::read(std::uint32_t chip, std::span<std::uint8_t> 
     const Transfer transfer(*this, bytes.size());
     const std::lock_guard lock(mutex_);
     const MonotonicTime now = clock_.now();
-    std::int32_t status = Status::notResponding;
     ++counters_.reads;
-    if (acknowledges(chip, now)) {
-        status = Status::success;
-        // Without a byte on the bus nothing is taken from the monitor.
-        if (!bytes.empty()) takeReply(now).copyTo(bytes);
+    if (!acknowledges(chip, now)) {
+        ++counters_.notAcknowledged;
+        record({now, WireRecord::Direction::read, {}, Status::notResponding});
+        return Status::notResponding;
     }
-    if (isTracing_) {
-        const std::span<std::uint8_t> seen = status == Status::success ? bytes : bytes.first(0);
-        record({now, WireRecord::Direction::read, Bytes(seen.begin(), seen.end()), status});
-    }
-    return status;
+    // Without a byte on the bus nothing is taken from the monitor.
+    if (!bytes.empty()) firmware_.takeReply(now).copyTo(bytes);
+    record({now, WireRecord::Direction::read, Bytes(bytes.begin(), bytes.end()), Status::success});
+    return Status::success;
 }
 
 bool SimulatedMonitor::acknowledges(std::uint32_t chip, MonotonicTime now) {
+    if (chip != displayChip) return false;
+    if (power_ == Power::off || manner_.isDead || !firmware_.isOnBus(now)) {
+        firmware_.forgetReply();
+        return false;
+    }
     const auto isIn = [this, now](const Span& span) {
         return now >= start_ + span.from && now < start_ + span.from + span.length;
     };
-    const auto& spans = personality_.nakDuring;
-    const bool isThere = chip == displayChip && power_ == Power::on && !personality_.dead &&
-                         (!inputs_ || inputs_->isOnBus(now));
-    if (!isThere) {
-        if (chip == displayChip) pending_.reset();
-        ++counters_.notAcknowledged;
-        return false;
+    const bool isInSpan = std::any_of(manner_.nakDuring.begin(), manner_.nakDuring.end(), isIn);
+    return !manner_.naks.next(random_) && !isInSpan;
+}
+
+void SimulatedMonitor::setPower(Power power) {
+    const std::lock_guard lock(mutex_);
+    power_ = power;
+    firmware_.forgetReply();
+}
+
+void SimulatedMonitor::wake() {
+    const std::lock_guard lock(mutex_);
+    firmware_.wake(clock_.now());
+}
+
+void SimulatedMonitor::pressInputButton(std::uint16_t input) {
+    std::optional<Pulse> pulse;
+    {
+        const std::lock_guard lock(mutex_);
+        pulse = firmware_.pressInputButton(input, clock_.now());
     }
-    if (naks_.next(random_) || std::any_of(spans.begin(), spans.end(), isIn)) {
-        ++counters_.notAcknowledged;
-        return false;
-    }
-    return true;
+    if (pulse && pulseListener_) pulseListener_(*pulse);
 }
 
-bool SimulatedMonitor::isSilent(MonotonicTime now) const {
-    return (deafUntil_ && now < *deafUntil_) || (inputs_ && inputs_->isSilent(now));
+void SimulatedMonitor::adjust(std::uint8_t code, std::uint16_t value) {
+    const std::lock_guard lock(mutex_);
+    firmware_.adjust(code, value);
 }
 
-// A new request takes the place of a reply that nobody read.
-std::int32_t SimulatedMonitor::receive(const Bytes& frame, const Request& request, MonotonicTime now) {
-    const Bytes& payload = request.payload;
-    const auto is = [&payload](std::uint8_t command, std::size_t length) {
-        return payload[0] == command && payload.size() == length;
-    };
-    if (is(getVCP, getLength)) return get(payload[1], frame, now);
-    if (is(setVCP, setLength)) {
-        set(payload[1], word(payload[2], payload[3]), now);
-    } else if (is(capabilitiesRequest, capabilitiesLength)) {
-        ++counters_.capabilitiesRequests;
-        expect({frame, std::nullopt, word(payload[1], payload[2]), {}}, personality_.capabilitiesLatency,
-               now);
-    } else {
-        ++counters_.ignored;
-    }
-    return Status::success;
+void SimulatedMonitor::becomeHealthy() {
+    const std::lock_guard lock(mutex_);
+    manner_ = BusManner();
+    firmware_.becomeHealthy(clock_.now());
 }
 
-std::int32_t SimulatedMonitor::get(std::uint8_t code, const Bytes& frame, MonotonicTime now) {
-    ++counters_.getRequests;
-    filter_.sawGet();
-    const VCPReplier::Question question{code, reading(code, now)};
-    if (!question.reading && personality_.unsupported == UnsupportedReply::nak) {
-        pending_.reset();
-        ++counters_.notAcknowledged;
-        return Status::notResponding;
-    }
-    expect({frame, question, 0, {}}, personality_.replyLatency, now);
-    return Status::success;
+void SimulatedMonitor::onPulse(PulseListener listener) { pulseListener_ = std::move(listener); }
+
+std::optional<std::uint16_t> SimulatedMonitor::value(std::uint8_t code) const {
+    const std::lock_guard lock(mutex_);
+    const std::optional<VCPReading> reading = firmware_.reading(code, clock_.now());
+    if (!reading) return std::nullopt;
+    return reading->current;
 }
 
-void SimulatedMonitor::set(std::uint8_t code, std::uint16_t value, MonotonicTime now) {
-    ++counters_.setRequests;
-    pending_.reset();
-    if (!filter_.takes(code, value, random_)) return;
-    if (code == inputSelect && inputs_) {
-        if (auto pulse = inputs_->request(value, now, random_)) newPulse_ = pulse;
-    } else {
-        table_.write(code, value, now);
-    }
+std::optional<std::uint16_t> SimulatedMonitor::shownInput() const {
+    const std::lock_guard lock(mutex_);
+    return firmware_.shownInput(clock_.now());
 }
 
-void SimulatedMonitor::expect(Pending pending, Duration latency, MonotonicTime now) {
-    const Duration jitter = personality_.latencyJitter;
-    pending.ready = now + latency;
-    if (jitter > Duration::zero()) pending.ready += random_.duration(Duration::zero(), jitter);
-    pending_ = std::move(pending);
+bool SimulatedMonitor::isOnBus(MonotonicTime now) const {
+    const std::lock_guard lock(mutex_);
+    return firmware_.isOnBus(now);
 }
 
-Reply SimulatedMonitor::takeReply(MonotonicTime now) {
-    if (isSilent(now)) {
-        pending_.reset();
-        return {};
-    }
-    if (!pending_ || now < pending_->ready) return {};
-    const Pending pending = *std::exchange(pending_, std::nullopt);
-    ++counters_.replies;
-    if (pending.question) return replier_.reply(*pending.question, pending.request, random_);
-    return capabilities_.reply(pending.offset, random_);
+bool SimulatedMonitor::handlesGoStale() const {
+    const std::lock_guard lock(mutex_);
+    return manner_.handlesGoStale;
 }
 
-std::optional<VCPReading> SimulatedMonitor::reading(std::uint8_t code, MonotonicTime now) const {
-    if (code == inputSelect && inputs_) return VCPReading{0, inputs_->maximum(), inputs_->reading(now)};
-    return table_.reading(code, now);
+MonitorCounters SimulatedMonitor::counters() const {
+    const std::lock_guard lock(mutex_);
+    return counters_;
 }
 
-void SimulatedMonitor::record(WireRecord record) { trace_.push_back(std::move(record)); }
+void SimulatedMonitor::recordTrace() {
+    const std::lock_guard lock(mutex_);
+    isTracing_ = true;
+}
+
+std::vector<WireRecord> SimulatedMonitor::trace() const {
+    const std::lock_guard lock(mutex_);
+    return trace_;
+}
+
+void SimulatedMonitor::record(const WireRecord& record) {
+    if (isTracing_) trace_.push_back(record);
+}
 
 }  // namespace vantrel::simulated

@@ -1,8 +1,8 @@
-// A monitor that speaks DDC/CI byte by byte and misbehaves as its Personality says.
+// A monitor that speaks DDC/CI byte by byte and misbehaves as its Personality says:
+// its MonitorFirmware, on a bus.
 //
 // A transfer that is not acknowledged has a status other than 0. A monitor that
-// is silent (switching, showing another input, deaf after wake) acknowledges
-// everything, obeys nothing and gives null messages.
+// is silent acknowledges everything, obeys nothing and gives null messages.
 //
 // Threads: any; transfers must not overlap (they are counted when they do).
 // Time: a transfer blocks its caller through the clock for as long as the bus is
@@ -18,14 +18,7 @@
 #include <span>
 #include <vector>
 
-#include "platform/simulated/CapabilitiesServer.h"
-#include "platform/simulated/Desk.h"
-#include "platform/simulated/InputSelector.h"
-#include "platform/simulated/MonitorLog.h"
-#include "platform/simulated/Random.h"
-#include "platform/simulated/VCPReplier.h"
-#include "platform/simulated/VCPTable.h"
-#include "platform/simulated/WriteFilter.h"
+#include "platform/simulated/MonitorFirmware.h"
 #include "runtime/Clock.h"
 
 namespace vantrel::simulated {
@@ -37,7 +30,7 @@ class SimulatedMonitor {
     enum class Power { off, on };
 
     // Its spans of time count from now. The clock must outlive it.
-    SimulatedMonitor(const MonitorPlan& plan, Random random, runtime::Clock& clock);
+    SimulatedMonitor(const MonitorPlan& plan, const Random& random, runtime::Clock& clock);
 
     // Transfers. `source` is the host's address, which comes as the data address.
     std::int32_t write(std::uint32_t chip, std::uint32_t source, std::span<const std::uint8_t> bytes);
@@ -69,46 +62,31 @@ class SimulatedMonitor {
     std::vector<WireRecord> trace() const;
 
   private:
-    // A reply that waits to be read: to a Get VCP request, or the fragment at an offset.
-    struct Pending {
-        Bytes request;
-        std::optional<VCPReplier::Question> question;
-        std::uint16_t offset = 0;
-        runtime::MonotonicTime ready;
-    };
     class Transfer;
 
+    // The part of a personality that shows on the bus, whatever the firmware does.
+    struct BusManner {
+        Duration byteTime{0};
+        bool isDead = false;
+        Occasions naks;
+        std::vector<Span> nakDuring;
+        bool handlesGoStale = false;
+    };
+
     bool acknowledges(std::uint32_t chip, runtime::MonotonicTime now);
-    bool isSilent(runtime::MonotonicTime now) const;
-    std::int32_t receive(const Bytes& frame, const Request& request, runtime::MonotonicTime now);
-    std::int32_t get(std::uint8_t code, const Bytes& frame, runtime::MonotonicTime now);
-    void set(std::uint8_t code, std::uint16_t value, runtime::MonotonicTime now);
-    void expect(Pending pending, Duration latency, runtime::MonotonicTime now);
-    Reply takeReply(runtime::MonotonicTime now);
-    std::optional<VCPReading> reading(std::uint8_t code, runtime::MonotonicTime now) const;
-    void record(WireRecord record);
+    void record(const WireRecord& record);
 
     runtime::Clock& clock_;
     const runtime::MonotonicTime start_;
     std::atomic<unsigned> transfers_ = 0;
+    PulseListener pulseListener_;
 
     mutable std::mutex mutex_;
-    Personality personality_;
-    Random random_;
-    Occasions naks_;
-    VCPTable table_;
-    std::optional<InputSelector> inputs_;
-    WriteFilter filter_;
-    VCPReplier replier_;
-    CapabilitiesServer capabilities_;
-
-    std::optional<Pending> pending_;
-    std::optional<Pulse> newPulse_;
-    PulseListener pulseListener_;
-    Power power_ = Power::on;
-    std::optional<runtime::MonotonicTime> deafUntil_;
-
     MonitorCounters counters_;
+    Random random_;
+    MonitorFirmware firmware_;
+    BusManner manner_;
+    Power power_ = Power::on;
     bool isTracing_ = false;
     std::vector<WireRecord> trace_;
 };

@@ -11,7 +11,9 @@ namespace vantrel::simulated {
 class SimulatedWorkspace : public platform::Workspace {
   public:
     explicit SimulatedWorkspace(World& world) : world_(world) {}
-    void onWake(std::function<void()> callback) override { world_.onWake(std::move(callback)); }
+    void onWake(std::function<void()> callback) override {
+        world_.announcements().onWake(std::move(callback));
+    }
 
   private:
     World& world_;

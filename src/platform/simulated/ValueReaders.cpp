@@ -3,7 +3,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::ValueReaders {
 namespace {
 
 template <class Unit>
@@ -55,4 +55,4 @@ std::optional<Occurrence> occurrence(const JSONPlace& place) {
     return result;
 }
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::ValueReaders

@@ -15,7 +15,7 @@
 #include "platform/simulated/ObjectShape.h"
 #include "platform/simulated/Personality.h"
 
-namespace vantrel::simulated {
+namespace vantrel::simulated::ValueReaders {
 
 // The longest span of time that a knob takes.
 constexpr std::chrono::hours longestDuration{24};
@@ -73,7 +73,7 @@ struct WordTable {
         }
         std::string known;
         for (const auto& [name, value] : entries) known += (known.empty() ? "" : ", ") + std::string(name);
-        place.report(inQuotes(*word) + " is not one of " + known);
+        place.report(JSONText::inQuotes(*word) + " is not one of " + known);
         return std::nullopt;
     }
 
@@ -84,4 +84,4 @@ struct WordTable {
     }
 };
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::simulated::ValueReaders

@@ -13,7 +13,11 @@ using platform::DisplayServices;
 using runtime::MonotonicTime;
 
 World::World(Desk desk, runtime::Scheduler& scheduler, runtime::MainLoop& mainLoop)
-    : desk_(std::move(desk)), scheduler_(scheduler), mainLoop_(mainLoop), tables_(desk_.displays) {
+    : desk_(std::move(desk)),
+      scheduler_(scheduler),
+      mainLoop_(mainLoop),
+      tables_(desk_.displays),
+      announcements_(mainLoop) {
     const Random random(desk_.seed);
     for (const DisplayPlan& plan : desk_.displays) {
         const auto [place, isNew] = states_.try_emplace(plan.id);
@@ -24,11 +28,8 @@ World::World(Desk desk, runtime::Scheduler& scheduler, runtime::MainLoop& mainLo
         if (plan.monitor) {
             state.monitor =
                 std::make_unique<SimulatedMonitor>(*plan.monitor, random.fork(plan.id), scheduler);
-            state.monitor->onPulse([this, id = plan.id, poster = mainLoop.poster(),
-                                    world = std::weak_ptr(existence_)](const Pulse& pulse) {
-                poster.post([this, id, world, pulse] {
-                    if (!world.expired()) expect(id, pulse);
-                });
+            state.monitor->onPulse([this, id = plan.id, poster = mainLoop.poster()](const Pulse& pulse) {
+                poster.post(announcements_.whileItLasts([this, id, pulse] { expect(id, pulse); }));
             });
         }
         state.wasOnline = isOnline(plan.id);
@@ -85,6 +86,91 @@ bool World::setBrightness(DisplayID display, float level) {
     const std::lock_guard lock(mutex_);
     states_.at(display).brightness = std::clamp(level, 0.0F, 1.0F);
     return true;
+}
+
+void World::plug(DisplayID display) {
+    State& changed = state(display);
+    {
+        const std::lock_guard lock(mutex_);
+        if (std::exchange(changed.isPluggedIn, true)) return;
+        changed.output = Output::on;
+    }
+    reconfigured();
+    announceIfChanged(display);
+}
+
+void World::unplug(DisplayID display) {
+    State& changed = state(display);
+    {
+        const std::lock_guard lock(mutex_);
+        if (!std::exchange(changed.isPluggedIn, false)) return;
+    }
+    reconfigured();
+    announceIfChanged(display);
+}
+
+void World::setOutput(DisplayID display, Output output) {
+    State& changed = state(display);
+    {
+        const std::lock_guard lock(mutex_);
+        if (std::exchange(changed.output, output) == output) return;
+    }
+    reconfigured();
+    announceIfChanged(display);
+}
+
+void World::openLid() { setLid(true); }
+
+void World::closeLid() { setLid(false); }
+
+void World::setLid(bool isOpen) {
+    {
+        const std::lock_guard lock(mutex_);
+        if (std::exchange(isLidOpen_, isOpen) == isOpen) return;
+    }
+    reconfigured();
+    for (const DisplayPlan& plan : desk_.displays) announceIfChanged(plan.id);
+}
+
+void World::reconfigure(DisplayID display, std::uint32_t flags) {
+    state(display);
+    reconfigured();
+    announcements_.reconfiguration(display, flags);
+}
+
+void World::sleep() { isAsleep_ = true; }
+
+void World::wake() {
+    if (!isAsleep_.exchange(false)) return;
+    for (auto& [display, state] : states_) {
+        if (state.monitor) state.monitor->wake();
+    }
+    announcements_.wake();
+}
+
+void World::reconfigured() {
+    ++reconfigurations_;
+    tables_.reset();
+}
+
+void World::expect(DisplayID display, const Pulse& pulse) {
+    const MonotonicTime now = scheduler_.now();
+    const auto tell = [this, display] {
+        if (state(display).wasOnline != isOnline(display)) reconfigured();
+        announceIfChanged(display);
+    };
+    for (const MonotonicTime edge : {pulse.from, pulse.to}) {
+        mainLoop_.after(std::max(edge - now, runtime::MonotonicClock::duration::zero()),
+                        announcements_.whileItLasts(tell));
+    }
+}
+
+void World::announceIfChanged(DisplayID display) {
+    State& changed = state(display);
+    const bool isNowOnline = isOnline(display);
+    if (std::exchange(changed.wasOnline, isNowOnline) == isNowOnline) return;
+    announcements_.reconfiguration(display,
+                                   isNowOnline ? DisplayServices::addFlag : DisplayServices::removeFlag);
 }
 
 World::State& World::state(DisplayID display) {

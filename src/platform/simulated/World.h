@@ -14,7 +14,6 @@
 
 #include <atomic>
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -23,6 +22,7 @@
 
 #include "platform/DisplayServices.h"
 #include "platform/DisplayToggler.h"
+#include "platform/simulated/Announcements.h"
 #include "platform/simulated/Desk.h"
 #include "platform/simulated/SimulatedMonitor.h"
 #include "platform/simulated/TransferTables.h"
@@ -72,8 +72,8 @@ class World {
     void sleep();
     void wake();
 
-    void onReconfiguration(platform::DisplayServices::ReconfigurationCallback callback);
-    void onWake(std::function<void()> callback);
+    // Where the program hears of it.
+    Announcements& announcements() { return announcements_; }
 
   private:
     struct State {
@@ -92,12 +92,12 @@ class World {
     void reconfigured();
     void expect(platform::DisplayID display, const Pulse& pulse);
     void announceIfChanged(platform::DisplayID display);
-    void announce(platform::DisplayID display, std::uint32_t flags);
 
     const Desk desk_;
     runtime::Scheduler& scheduler_;
     runtime::MainLoop& mainLoop_;
     TransferTables tables_;
+    Announcements announcements_;
     std::atomic<std::uint64_t> reconfigurations_ = 0;
     std::atomic<bool> isAsleep_ = false;
 
@@ -105,11 +105,6 @@ class World {
     mutable std::mutex mutex_;
     std::map<platform::DisplayID, State> states_;
     bool isLidOpen_ = true;
-
-    std::vector<platform::DisplayServices::ReconfigurationCallback> reconfigurationCallbacks_;
-    std::vector<std::function<void()>> wakeCallbacks_;
-    // Work that waits in the loop looks whether the world still exists.
-    std::shared_ptr<int> existence_ = std::make_shared<int>(0);
 };
 
 }  // namespace vantrel::simulated
