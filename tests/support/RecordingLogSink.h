@@ -21,8 +21,8 @@ struct LogLine {
 };
 
 inline std::ostream& operator<<(std::ostream& stream, const LogLine& line) {
-    return stream << line.subsystem << ' ' << line.category << " level " << static_cast<int>(line.level) << ": "
-                  << line.text;
+    return stream << line.subsystem << ' ' << line.category << " level " << static_cast<int>(line.level)
+                  << ": " << line.text;
 }
 
 class RecordingLogSink : public platform::LogSink {
