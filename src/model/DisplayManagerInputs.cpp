@@ -67,7 +67,7 @@ runtime::Task<> DisplayManager::returnToMac(Display display) {
         co_await settling;
     }
 
-    for (int attempt = 1;; ++attempt) {
+    for (int attempt = 1; attempt <= returnAttempts; ++attempt) {
         if (!isCurrent()) {
             log(LogLevel::standard, display->name() + ": return to the Mac replaced by another input");
             co_return;
@@ -81,17 +81,15 @@ runtime::Task<> DisplayManager::returnToMac(Display display) {
             if (isCurrent()) display->setReturningToMac(false);
             co_return;
         }
-        if (!isCurrent()) continue;
-        log(LogLevel::standard,
-            display->name() + ": monitor did not take the Mac input, attempt " + std::to_string(attempt));
-        if (attempt == returnAttempts) {
-            fail(Text::translated(
-                "%@ did not return to the Mac's input. Try again or use the monitor's buttons.",
-                {display->name()}));
-            display->setReturningToMac(false);
-            co_return;
+        if (isCurrent()) {
+            log(LogLevel::standard,
+                display->name() + ": monitor did not take the Mac input, attempt " + std::to_string(attempt));
         }
     }
+    if (!isCurrent()) co_return;
+    fail(Text::translated("%@ did not return to the Mac's input. Try again or use the monitor's buttons.",
+                          {display->name()}));
+    display->setReturningToMac(false);
 }
 
 runtime::Task<bool> DisplayManager::waitForInput(Input input, Display display,

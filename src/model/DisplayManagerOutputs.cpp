@@ -41,7 +41,7 @@ runtime::Task<> DisplayManager::disableOutput(Display display, std::optional<Inp
     if (!platform::DisplayToggler::setEnabled(platform_.displays, platform_.functions, display->id(),
                                               Output::off)) {
         fail(Text::translated("macOS refused to turn the output off for %@.", {display->name()}));
-        log(LogLevel::standard, "macOS refused to turn output off for " + display->name());
+        log(LogLevel::error, "macOS refused to turn output off for " + display->name());
         co_return;
     }
     removeDisabled(display->id());
@@ -80,7 +80,7 @@ bool DisplayManager::enable(DisplayID id, const std::string& name) {
     if (!platform::DisplayToggler::setEnabled(platform_.displays, platform_.functions, id, Output::on)) {
         fail(Text::translated("Couldn't turn %@ back on. If it was disconnected, plug the cable back in.",
                               {name}));
-        log(LogLevel::standard, "macOS refused to turn output back on for " + name);
+        log(LogLevel::error, "macOS refused to turn output back on for " + name);
         return false;
     }
     removeDisabled(id);
