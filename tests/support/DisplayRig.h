@@ -17,6 +17,7 @@
 #include "platform/simulated/DefaultRegistry.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "platform/simulated/VirtualTime.h"
+#include "runtime/Fatal.h"
 #include "runtime/MainLoop.h"
 #include "runtime/TaskScope.h"
 #include "support/RecordingLogSink.h"
@@ -89,7 +90,12 @@ class DisplayRig {
 
     simulated::SimulatedMonitor& monitor() { return simulated.monitor(id); }
     platform::TransferTable transferTable() { return platform.displays.transferTable(id, 16).value(); }
-    model::VCPFeature& feature(std::uint8_t code) { return *display->feature(code); }
+    // A code without a feature stops the test.
+    model::VCPFeature& feature(std::uint8_t code) {
+        const auto found = display->feature(code);
+        runtime::require(found != nullptr, "the display has no feature 0x" + text::upperHex(code));
+        return *found;
+    }
 
     // What the host asked the monitor since forgetRequests(): "get 10",
     // "set 10 = 50", "capabilities 0". A host writes gets and sets twice in a
