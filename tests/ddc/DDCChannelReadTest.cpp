@@ -151,7 +151,7 @@ TEST_F(DDCChannelReadTest, ReplyForAnotherCodeIsInvalidThoughUnsupported) {
 }
 
 TEST_F(DDCChannelReadTest, ReplyWithAnotherOpcodeIsRetried) {
-    monitor.nextReply(sealed({0x6E, 0x88, 0x03, 0x00, 0x10, 0x00, 0x00, 0x64, 0x00, 0x32}));
+    monitor.nextReply(sealed({0x6E, 0x88, 0x03, 0x00, 0x10, 0x00, 0x00, 0x64, 0x00, 0x46}));
     monitor.nextReply(readingReply(brightness, 50, 100));
     EXPECT_EQ(channel->read(brightness, 2), Result::value({50, 100}));
 }

@@ -159,6 +159,10 @@ TEST(DDCFrame, HighestBitOfAFragmentsLengthIsIgnored) {
     EXPECT_THAT(fragmentOf(padded(sealed({0x6E, 0x04, 0xE3, 0x00, 0x00, 'x'})), 0), Optional(bytesOf("x")));
 }
 
+TEST(DDCFrame, EveryLowerBitOfAFragmentsLengthCounts) {
+    EXPECT_EQ(fragmentOf(padded(sealed({0x6E, 0xC4, 0xE3, 0x00, 0x00, 'x'})), 0), std::nullopt);
+}
+
 TEST(DDCFrame, FragmentThatSaysItIsLongerThanTheReplyIsInvalid) {
     // 36 bytes and 3 of frame are one more than were read.
     Bytes reply{0x6E, 0xA4, 0xE3, 0x00, 0x00};

@@ -304,6 +304,23 @@ TEST_F(DDCWorkerTest, ReadBetweenTwoWritesStaysBetweenThem) {
     EXPECT_THAT(traffic(), ElementsAre("10=10", "62?", "12=70"));
 }
 
+// A drain left over on the queue would send the last write before the last read.
+TEST_F(DDCWorkerTest, WritesDuringADrainStartNoOther) {
+    std::optional<Result> first;
+    std::optional<Result> second;
+    worker->write(brightness, 10);
+    loop.runFor(5ms);
+    startReading(volume, 1, first);
+    loop.runFor(5ms);
+    worker->write(contrast, 70);
+    loop.runFor(130ms);  // both writes are over, the first read is running
+    startReading(0xDF, 1, second);
+    loop.runFor(5ms);
+    worker->write(0x60, 17);
+    loop.run();
+    EXPECT_THAT(traffic(), ElementsAre("10=10", "12=70", "62?", "DF?", "60=17"));
+}
+
 TEST_F(DDCWorkerTest, TwoMonitorsAreAddressedInParallel) {
     test::ScriptedService right;
     std::optional<DDCWorker> other = makeWorker(right, "725");
