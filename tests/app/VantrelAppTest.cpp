@@ -153,23 +153,6 @@ TEST(VantrelApp, ParsesCapabilitiesFromAFile) {
     EXPECT_EQ(outcome.output, "{\"raw\":\"vcp(10)\",\"codes\":[16],\"values\":[]}\n");
 }
 
-TEST(VantrelApp, TreatsCapabilitiesBytesAsIfAMonitorHadSentThem) {
-    const Outcome outcome = run({"--parse-capabilities"}, std::string("vcp(1\0"
-                                                                      "0\xFF)",
-                                                                      9));
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.output, "{\"raw\":\"vcp(10\xEF\xBF\xBD)\",\"codes\":[16],\"values\":[]}\n");
-}
-
-TEST(VantrelApp, PrintsNoneWhenThereIsNothingToParse) {
-    for (const char* text : {"", "\n", "(prot(monitor))", "vcp()"}) {
-        const Outcome outcome = run({"--parse-capabilities"}, text);
-        EXPECT_EQ(outcome.status, 1) << text;
-        EXPECT_EQ(outcome.output, "none\n") << text;
-        EXPECT_EQ(outcome.errors, "") << text;
-    }
-}
-
 TEST(VantrelApp, NamesACapabilitiesFileThatItCantRead) {
     const Folder folder;
     const std::string missing = folder.path() + "/missing";

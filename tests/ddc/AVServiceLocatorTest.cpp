@@ -11,7 +11,6 @@ namespace {
 using namespace std::string_literals;
 
 using platform::PropertyDictionary;
-using platform::PropertyValue;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -124,6 +123,13 @@ TEST_F(AVServiceLocatorTest, IllFormedNamesAreNeitherFramebuffersNorLinks) {
     proxy({{"Location", "External"s}}, "\xFE\xFF");
     proxy();
     EXPECT_THAT(identities(), ElementsAre(none));
+}
+
+TEST_F(AVServiceLocatorTest, NamesEndAtTheirFirstNUL) {
+    framebuffer(left, "AppleCLCD2\0shim"s);
+    proxy({{"Location", "External"s}}, "DCPAVServiceProxy\0\xFF"s);
+    proxy({{"Location", "External"s}}, "\0DCPAVServiceProxy"s);
+    EXPECT_THAT(identities(), ElementsAre(left));
 }
 
 TEST_F(AVServiceLocatorTest, LinksAreInRegistryOrder) {

@@ -182,6 +182,11 @@ TEST_F(AVServiceMatchTest, FewerThanEightCharactersScoreAtMostTheVendor) {
     EXPECT_TRUE(scoresOne("10AC"));
 }
 
+TEST_F(AVServiceMatchTest, FewerThanFourCharactersAreAVendorNumberAllTheSame) {
+    displays.numbers[1].vendor = 0x10A;
+    EXPECT_TRUE(scores("10A"));
+}
+
 TEST_F(AVServiceMatchTest, SerialAddsToAShortEDIDUUID) {
     EXPECT_TRUE(prefers({"10ACE1A", theSerial}, {neither, theSerial}));
 }

@@ -53,7 +53,7 @@ class ChannelTest : public test::DeathTest {
     // What was logged, and what happened at the bus, since the last call.
     LogLines takeLog() {
         const LogLines all = sink.lines();
-        const LogLines news(all.begin() + static_cast<std::ptrdiff_t>(takenLines_), all.end());
+        LogLines news(all.begin() + static_cast<std::ptrdiff_t>(takenLines_), all.end());
         takenLines_ = all.size();
         return news;
     }

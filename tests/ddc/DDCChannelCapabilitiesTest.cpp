@@ -9,7 +9,6 @@ using test::Bytes;
 using test::fragmentReply;
 using test::sealed;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 const char* const firstRequest = "write 83 F3 00 00 4F";
 
@@ -257,7 +256,7 @@ TEST_F(DDCChannelCapabilitiesTest, EndlessStringStopsAt8192Bytes) {
 
 TEST_F(DDCChannelCapabilitiesTest, LastFragmentMayCarryTheStringPastTheCap) {
     endlessFragments(31);
-    EXPECT_EQ(channel->capabilities(), std::string(265 * 31, 'x'));
+    EXPECT_EQ(channel->capabilities(), std::string(265U * 31U, 'x'));
     EXPECT_EQ(lastOffset, 264U * 31U);
     EXPECT_LT(lastOffset, 8192U);
 }

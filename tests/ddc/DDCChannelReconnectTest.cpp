@@ -7,7 +7,6 @@ using namespace std::chrono_literals;
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::Not;
 
 constexpr std::uint8_t brightness = 0x10;
 const char* const request = "write 84 03 10 00 32 9A";

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <vector>
 
 #include "platform/simulated/AVServiceTable.h"
 #include "simulated/DeskBench.h"
@@ -49,7 +50,7 @@ TEST(AVServiceTable, CountsTheHandlesThatWereNotGivenBack) {
     {
         const platform::AVService first = bench.service();
         const platform::AVService second = bench.service();
-        const platform::AVService copy = first;
+        const std::vector<platform::AVService> copies(3, first);
         EXPECT_EQ(bench.simulated.liveServices(), 2);
     }
     EXPECT_EQ(bench.simulated.liveServices(), 0);

@@ -145,6 +145,23 @@ TEST(DeskReader, RefusesAnIDOfTwoDisplays) {
               "x.json: displays[1].id: is already the id of displays[0]");
 }
 
+std::string deskWithDisplays(int count) {
+    std::string list;
+    for (int id = 1; id <= count; ++id) {
+        list += (id == 1 ? "" : ", ") + (R"({"id": )" + std::to_string(id)) +
+                R"(, "name": "M", "vendor": 1, "product": 1})";
+    }
+    return R"({"title": "T", "displays": [)" + list + "]}";
+}
+
+TEST(DeskReader, AcceptsTheMostDisplays) {
+    EXPECT_THAT(readDeskText(deskWithDisplays(256)).displays, SizeIs(256));
+}
+
+TEST(DeskReader, RefusesMoreDisplaysThanAnyComputerHas) {
+    EXPECT_EQ(mistakeIn(deskWithDisplays(257)), "x.json: displays: has more than 256 displays");
+}
+
 TEST(DeskReader, RefusesTwoBuiltInDisplays) {
     EXPECT_EQ(mistakeIn(R"({"title": "T", "displays": [
         {"id": 1, "name": "A", "vendor": 1, "product": 1, "isBuiltIn": true},

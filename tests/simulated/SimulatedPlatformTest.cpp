@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "platform/simulated/SimulatedPlatform.h"
@@ -65,10 +66,9 @@ TEST(SimulatedPlatform, LetsTwoMonitorsTransferAtTheSameTime) {
 
 // Whether each of 64 transfers of a monitor was acknowledged.
 std::vector<bool> acknowledged(SimulatedMonitor& monitor) {
-    std::vector<bool> results;
-    for (int transfer = 0; transfer < 64; ++transfer) {
-        results.push_back(monitor.write(0x37, 0x51, bytes(get10)) == 0);
-    }
+    std::vector<bool> results(64);
+    std::generate(results.begin(), results.end(),
+                  [&monitor] { return monitor.write(0x37, 0x51, bytes(get10)) == 0; });
     return results;
 }
 

@@ -13,7 +13,6 @@ UNTESTED = {
     "src/platform/simulated/Frame.cpp": _MONITOR,
     "src/platform/simulated/MonitorFirmware.cpp": _MONITOR,
     "src/platform/simulated/ReplySpoiler.cpp": "a piece of VCPReplier, whose test spoils a reply in every way",
-    "src/app/CapabilitiesTool.cpp": "an action of VantrelApp, whose test runs it on files and standard input",
 }
 
 

@@ -17,6 +17,8 @@ using namespace ValueReaders;
 
 using platform::DisplayID;
 
+// Far more than any computer has.
+constexpr std::size_t mostDisplays = 256;
 constexpr unsigned mostPixels = 65535;
 constexpr std::uint32_t largestTransferTable = 65536;
 
@@ -81,6 +83,10 @@ std::optional<std::vector<DisplayPlan>> displays(const JSONPlace& place) {
         }
         if (display->isBuiltIn) builtIn = index;
         result.push_back(*std::move(display));
+    }
+    if (result.size() > mostDisplays) {
+        place.report("has more than " + std::to_string(mostDisplays) + " displays");
+        return std::nullopt;
     }
     return result;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <set>
 
 #include "platform/simulated/ObjectShape.h"
 #include "platform/simulated/PersonalityReader.h"
@@ -53,11 +54,11 @@ std::optional<std::map<std::uint8_t, FeaturePlan>> features(const JSONPlace& pla
 
 std::optional<std::vector<std::uint16_t>> availableInputs(const JSONPlace& place) {
     std::vector<std::uint16_t> result;
+    std::set<std::uint16_t> seen;
     for (const JSONPlace& element : place.elements()) {
         const auto input = code<std::uint16_t>(element);
         if (!input) continue;
-        if (std::find(result.begin(), result.end(), *input) != result.end())
-            element.report("is there already");
+        if (!seen.insert(*input).second) element.report("is there already");
         result.push_back(*input);
     }
     if (result.empty()) {
