@@ -36,7 +36,8 @@ class InputSettings {
     std::optional<Input> macInput() const { return macInput_.get(); }
     void setMacInput(std::optional<Input> input);
 
-    // The user's list instead of the detected one.
+    // The user's list instead of the detected one. For a display's inputs use
+    // ExternalDisplay::setCustomInputs, which also changes what is offered.
     const std::optional<std::vector<Input>>& customInputs() const { return customInputs_.get(); }
     void setCustomInputs(std::optional<std::vector<Input>> inputs);
 
