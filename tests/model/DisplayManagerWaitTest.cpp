@@ -60,7 +60,7 @@ class Verification {
         for (const auto& input : answers) {
             const std::size_t before = readings();
             show(input.value_or(otherInput));
-            while (readings() == before) rig.runFor(10ms);
+            runWhile([&] { return readings() == before; });
             // The answer comes after 60 ms, and the next question a second later.
             rig.runFor(500ms);
         }
@@ -68,9 +68,15 @@ class Verification {
     bool hasSettled() const { return !rig.log.moments(settled).empty(); }
     std::size_t readings() { return inputReads(monitor()).size(); }
 
+    // For a few minutes at the most.
+    void runWhile(const std::function<bool()>& condition) {
+        const auto limit = rig.now() + 5min;
+        while (condition() && rig.now() < limit) rig.runFor(50ms);
+        EXPECT_FALSE(condition());
+    }
     // Runs until the attempt has ended.
     void finish() {
-        while (rig.log.moments(refused).empty() && !hasSettled()) rig.runFor(100ms);
+        runWhile([this] { return rig.log.moments(refused).empty() && !hasSettled(); });
     }
     // From the beginning of the attempt.
     Duration gaveUp() const { return rig.log.moments(refused).at(0) - rig.log.moments(attempt).at(0); }
@@ -196,7 +202,7 @@ TEST(DisplayManagerWait, EveryAttemptStartsItsStreakAnew) {
     run.finish();
     // Silent for the whole first attempt, which ends after 20 s, so the second has it.
     EXPECT_FALSE(run.hasSettled());
-    while (!run.hasSettled()) run.rig.runFor(10ms);
+    run.runWhile([&] { return !run.hasSettled(); });
     EXPECT_GE(run.rig.now() - run.start, 39500ms);
     EXPECT_THAT(run.rig.log.moments("Alder: switching to Mac input 0x0F, attempt 2"), SizeIs(1));
 }
@@ -332,7 +338,7 @@ TEST(DisplayManagerWait, AMonitorThatStaysAwayPulsedOnce) {
     EXPECT_GE(run.gaveUp(), 28s);
     EXPECT_LT(run.gaveUp(), 29100ms);
     const std::string second = "Alder: monitor did not take the Mac input, attempt 2";
-    while (run.rig.log.moments(second).empty()) run.rig.runFor(100ms);
+    run.runWhile([&] { return run.rig.log.moments(second).empty(); });
     const Duration took = run.rig.log.moments(second).at(0) - run.rig.log.moments(refused).at(0);
     EXPECT_LT(took, 21100ms);
 }

@@ -11,6 +11,7 @@
 #include "model/DisplayManager.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "platform/simulated/VirtualTime.h"
+#include "runtime/Fatal.h"
 #include "runtime/MainLoop.h"
 #include "support/CallRecord.h"
 #include "support/TestDesks.h"
@@ -62,10 +63,12 @@ class ManagerRig {
     }
 
     void runFor(Duration duration) { loop.runFor(duration); }
-    // Until the operation has ended; nothing else has to.
+    // Until the operation has ended; nothing else has to. An hour at the most.
     void perform(runtime::Task<> operation) {
         const runtime::TaskHandle handle = manager->start(std::move(operation));
-        while (handle.isRunning()) loop.runFor(std::chrono::milliseconds(10));
+        const auto limit = now() + std::chrono::hours(1);
+        while (handle.isRunning() && now() < limit) loop.runFor(std::chrono::milliseconds(10));
+        runtime::require(!handle.isRunning(), "an operation does not end");
     }
     runtime::MonotonicTime now() const { return time.now(); }
 
