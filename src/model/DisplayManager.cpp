@@ -85,6 +85,7 @@ void DisplayManager::refresh() {
     notePulses(online);
 
     std::vector<Display> externals;
+    externals.reserve(externalIDs.size());
     for (const DisplayID id : externalIDs) externals.push_back(modelFor(id, std::nullopt, reusable, matches));
     std::map<DisplayID, Display> offline;
     for (const DisabledDisplay& entry : disabled()) {

@@ -19,6 +19,7 @@ constexpr int loadAttempts = 4;
 
 std::vector<std::uint16_t> namedValues(const mccs::VCPInfo& info) {
     std::vector<std::uint16_t> values;
+    values.reserve(info.valueNames.size());
     for (const auto& [value, name] : info.valueNames) values.push_back(value);
     return values;
 }
