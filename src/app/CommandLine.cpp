@@ -3,8 +3,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <map>
-#include <memory>
+#include <optional>
 
+#include "app/ShippedStories.h"
 #include "app/Version.h"
 #include "platform/simulated/ShippedDesks.h"
 
@@ -20,14 +21,14 @@ const std::map<std::string, LogLevel> logLevels{{"debug", LogLevel::debug},
                                                 {"fault", LogLevel::fault}};
 constexpr const char* logLevelNames = "debug, info, default, error, fault";
 
-std::string shippedDesks() {
-    const auto desks = simulated::ShippedDesks::list();
+template <class Entries>
+std::string listOf(const std::string& heading, const Entries& entries) {
     std::size_t width = 0;
-    for (const auto& desk : desks) width = std::max(width, desk.name.size());
-    std::string list = "Simulated desks that come with the program:\n";
-    for (const auto& desk : desks) {
-        list += "  " + std::string(desk.name) + std::string(width - desk.name.size() + 2, ' ') +
-                desk.description + "\n";
+    for (const auto& entry : entries) width = std::max(width, entry.name.size());
+    std::string list = heading + "\n";
+    for (const auto& entry : entries) {
+        list += "  " + std::string(entry.name) + std::string(width - entry.name.size() + 2, ' ') +
+                entry.description + "\n";
     }
     return list;
 }
@@ -39,12 +40,25 @@ std::string oneLine(std::string message) {
     return message + " (see --help)";
 }
 
+std::optional<CommandLine::Mistake> wrongCombination(const CommandLine& line) {
+    if (line.play && line.probe) return CommandLine::Mistake{oneLine("--play and --probe: one at a time")};
+    if (line.play && line.parseCapabilities) {
+        return CommandLine::Mistake{oneLine("--play and --parse-capabilities: one at a time")};
+    }
+    if (line.virtualTime && !line.simulate && !line.play) {
+        return CommandLine::Mistake{
+            oneLine("--virtual-time needs --simulate: real monitors answer in real time")};
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::parse(
     const std::vector<std::string>& arguments) {
     CommandLine line;
     std::string simulate;
+    std::string play;
     std::string log;
     std::string parseCapabilities;
 
@@ -60,9 +74,19 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
                 "without FILE")
             ->expected(0, 1)
             ->type_name("[FILE]");
-    parser.add_flag("--virtual-time", line.virtualTime, "With --simulate: don't wait, let time jump");
+    parser.add_flag("--virtual-time", line.virtualTime,
+                    "With --simulate or --play: don't wait, let time jump");
+    const CLI::Option* playOption =
+        parser
+            .add_option("--play", play,
+                        "Play what happens on a simulated desk and print it: a story file or the name of a "
+                        "story below, which has a desk of its own; --simulate names another")
+            ->type_name("STORY");
     const CLI::Option* logOption =
-        parser.add_option("--log", log, std::string("Show the log from LEVEL on: ") + logLevelNames)
+        parser
+            .add_option("--log", log,
+                        std::string("Show the log from LEVEL on (a story shows it from default on): ") +
+                            logLevelNames)
             ->type_name("LEVEL");
     const CLI::Option* parseOption =
         parser
@@ -75,7 +99,9 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
     try {
         parser.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::CallForHelp&) {
-        return Text{parser.help() + "\n" + shippedDesks()};
+        return Text{parser.help() + "\n" +
+                    listOf("Simulated desks that come with the program:", simulated::ShippedDesks::list()) +
+                    "\n" + listOf("Stories that come with the program:", ShippedStories::list())};
     } catch (const CLI::CallForVersion&) {
         return Text{parser.version() + "\n"};
     } catch (const CLI::ParseError& error) {
@@ -83,6 +109,7 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
     }
 
     if (simulateOption->count() > 0) line.simulate = simulate;
+    if (playOption->count() > 0) line.play = play;
     if (parseOption->count() > 0) line.parseCapabilities = parseCapabilities;
     if (logOption->count() > 0) {
         const auto level = logLevels.find(log);
@@ -91,9 +118,7 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
         }
         line.log = level->second;
     }
-    if (line.virtualTime && !line.simulate) {
-        return Mistake{oneLine("--virtual-time needs --simulate: real monitors answer in real time")};
-    }
+    if (auto mistake = wrongCombination(line)) return *std::move(mistake);
     return line;
 }
 

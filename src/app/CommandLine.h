@@ -18,7 +18,10 @@ struct CommandLine {
     std::optional<std::string> simulate;
     // Time passes only while nobody works; for a simulated desk.
     bool virtualTime = false;
-    // Log lines at this level and above go to standard error.
+    // A story to play on a simulated desk: a story file or the name of a shipped one.
+    std::optional<std::string> play;
+    // Log lines at this level and above go to standard error, or among what a story
+    // prints.
     std::optional<platform::LogLevel> log;
     // Parses a capabilities string: from this file, or from standard input when empty.
     std::optional<std::string> parseCapabilities;

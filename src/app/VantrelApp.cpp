@@ -12,6 +12,9 @@
 #include "app/ConsoleLog.h"
 #include "app/ExitStatus.h"
 #include "app/NoLog.h"
+#include "app/ShippedStories.h"
+#include "app/StoryCheck.h"
+#include "app/StoryPlayer.h"
 #include "ddc/Probe.h"
 #include "platform/simulated/ShippedDesks.h"
 #include "platform/simulated/SimulatedPlatform.h"
@@ -24,12 +27,39 @@ namespace ShippedDesks = simulated::ShippedDesks;
 
 namespace {
 
-std::string shippedNames() {
+// What a name on the command line stands for, or one line that says what is wrong.
+template <class Data>
+using Found = std::variant<Data, std::string>;
+
+template <class Entries>
+std::string namesOf(const Entries& entries) {
     std::string names;
-    for (const ShippedDesks::Entry& desk : ShippedDesks::list()) {
-        names.append(names.empty() ? "" : ", ").append(desk.name);
-    }
+    for (const auto& entry : entries) names.append(names.empty() ? "" : ", ").append(entry.name);
     return names;
+}
+
+Found<simulated::Desk> findDesk(const std::string& nameOrPath) {
+    if (!ShippedDesks::text(nameOrPath) && !std::filesystem::exists(nameOrPath)) {
+        return "there is no desk file " + nameOrPath + ", and no desk of that name among " +
+               namesOf(ShippedDesks::list());
+    }
+    auto desk = ShippedDesks::read(nameOrPath);
+    if (const auto* mistake = std::get_if<simulated::FileError>(&desk)) return mistake->line();
+    return std::get<simulated::Desk>(std::move(desk));
+}
+
+Found<Story> findStory(const std::string& nameOrPath) {
+    if (!ShippedStories::text(nameOrPath) && !std::filesystem::exists(nameOrPath)) {
+        return "there is no story file " + nameOrPath + ", and no story of that name among " +
+               namesOf(ShippedStories::list());
+    }
+    auto story = ShippedStories::read(nameOrPath);
+    if (const auto* mistake = std::get_if<simulated::FileError>(&story)) return mistake->line();
+    return std::get<Story>(std::move(story));
+}
+
+std::string deskName(const CommandLine& line) {
+    return line.simulate->empty() ? std::string(ShippedDesks::defaultName) : *line.simulate;
 }
 
 std::unique_ptr<runtime::Scheduler> makeScheduler(const CommandLine& line) {
@@ -67,6 +97,7 @@ int VantrelApp::run(const std::vector<std::string>& arguments) {
 
 int VantrelApp::run(const CommandLine& line) {
     if (line.probe) return runProbe(line);
+    if (line.play) return runStory(line);
     if (line.parseCapabilities) return parseCapabilities(*line.parseCapabilities);
     return fail(
         "there is no interface yet; --probe prints what the monitors answer, with --simulate those of a "
@@ -78,13 +109,32 @@ int VantrelApp::runProbe(const CommandLine& line) {
         return fail(
             "this build can't reach real monitors yet; use --simulate for a simulated desk (see --help)");
     }
-    const std::string name = line.simulate->empty() ? std::string(ShippedDesks::defaultName) : *line.simulate;
-    if (!ShippedDesks::text(name) && !std::filesystem::exists(name)) {
-        return fail("there is no desk file " + name + ", and no desk of that name among " + shippedNames());
-    }
-    auto desk = ShippedDesks::read(name);
-    if (const auto* mistake = std::get_if<simulated::DeskFileError>(&desk)) return fail(mistake->line());
+    auto desk = findDesk(deskName(line));
+    if (const auto* mistake = std::get_if<std::string>(&desk)) return fail(*mistake);
     probe(line, std::get<simulated::Desk>(std::move(desk)), output_, errors_);
+    return ExitStatus::success;
+}
+
+int VantrelApp::runStory(const CommandLine& line) {
+    auto found = findStory(*line.play);
+    if (const auto* mistake = std::get_if<std::string>(&found)) return fail(*mistake);
+    const Story& story = std::get<Story>(found);
+    const bool isDeskNamed = line.simulate && !line.simulate->empty();
+    if (!line.simulate && !story.desk) {
+        return fail(ShippedStories::fileName(*line.play) +
+                    ": names no desk; use --simulate DESK (see --help)");
+    }
+    auto desk = findDesk(isDeskNamed || !story.desk ? deskName(line) : *story.desk);
+    if (const auto* mistake = std::get_if<std::string>(&desk)) return fail(*mistake);
+    if (const auto missing = StoryCheck::missing(story, std::get<simulated::Desk>(desk))) {
+        return fail(
+            simulated::FileError{ShippedStories::fileName(*line.play), missing->place, missing->reason}
+                .line());
+    }
+    const auto scheduler = makeScheduler(line);
+    StoryPlayer(story, std::get<simulated::Desk>(std::move(desk)), *scheduler, output_,
+                line.log.value_or(platform::LogLevel::standard))
+        .play();
     return ExitStatus::success;
 }
 

@@ -23,6 +23,7 @@ class VantrelApp {
   private:
     int run(const CommandLine& line);
     int runProbe(const CommandLine& line);
+    int runStory(const CommandLine& line);
     int parseCapabilities(const std::string& path);
     // One line for the user.
     int fail(const std::string& reason);

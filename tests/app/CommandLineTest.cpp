@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/CommandLine.h"
+#include "app/ShippedStories.h"
 #include "platform/simulated/ShippedDesks.h"
 
 namespace vantrel::app {
@@ -33,6 +34,7 @@ TEST(CommandLine, AsksForNothingWithoutArguments) {
     EXPECT_FALSE(line.probe);
     EXPECT_FALSE(line.simulate);
     EXPECT_FALSE(line.virtualTime);
+    EXPECT_FALSE(line.play);
     EXPECT_FALSE(line.log);
     EXPECT_FALSE(line.parseCapabilities);
 }
@@ -90,20 +92,42 @@ TEST(CommandLine, RefusesVirtualTimeForRealMonitors) {
     EXPECT_TRUE(parsed({"--virtual-time", "--simulate"}).virtualTime);
 }
 
+TEST(CommandLine, TakesAStoryWithADeskOrWithout) {
+    EXPECT_EQ(parsed({"--play", "a folder/story.json"}).play, "a folder/story.json");
+    EXPECT_FALSE(parsed({"--play", "wake"}).simulate);
+    EXPECT_EQ(parsed({"--simulate", "twins", "--play", "wake"}).simulate, "twins");
+    EXPECT_EQ(parsed({"--simulate", "--play", "wake"}).play, "wake");
+    EXPECT_TRUE(parsed({"--play", "wake", "--virtual-time"}).virtualTime);
+}
+
+TEST(CommandLine, WantsAStoryAfterPlay) {
+    EXPECT_EQ(mistakeOf({"--play"}), "--play: 1 required STORY missing (see --help)");
+}
+
+TEST(CommandLine, PlaysNothingBesideWhatElseItDoes) {
+    EXPECT_EQ(mistakeOf({"--play", "wake", "--probe"}), "--play and --probe: one at a time (see --help)");
+    EXPECT_EQ(mistakeOf({"--play", "wake", "--parse-capabilities"}),
+              "--play and --parse-capabilities: one at a time (see --help)");
+}
+
 TEST(CommandLine, TakesAFileOrNoneToParse) {
     EXPECT_EQ(parsed({"--parse-capabilities"}).parseCapabilities, "");
     EXPECT_EQ(parsed({"--parse-capabilities", "raw.txt"}).parseCapabilities, "raw.txt");
 }
 
-TEST(CommandLine, HelpNamesEveryOptionAndEveryShippedDesk) {
+TEST(CommandLine, HelpNamesEveryOptionShippedDeskAndStory) {
     const std::string help = textOf({"--help"});
-    for (const char* option : {"--probe", "--simulate", "--virtual-time", "--log", "--parse-capabilities",
-                               "--help", "--version"}) {
+    for (const char* option : {"--probe", "--simulate", "--virtual-time", "--play", "--log",
+                               "--parse-capabilities", "--help", "--version"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }
     for (const auto& desk : simulated::ShippedDesks::list()) {
         EXPECT_NE(help.find("  " + std::string(desk.name) + " "), std::string::npos) << desk.name;
         EXPECT_NE(help.find(desk.description), std::string::npos) << desk.name;
+    }
+    for (const auto& story : ShippedStories::list()) {
+        EXPECT_NE(help.find("  " + std::string(story.name) + " "), std::string::npos) << story.name;
+        EXPECT_NE(help.find(story.description), std::string::npos) << story.name;
     }
 }
 

@@ -138,6 +138,82 @@ TEST(VantrelApp, ListsTheShippedDesksWhenNeitherDeskNorFileIsFound) {
     EXPECT_EQ(outcome.errors.find('\n'), outcome.errors.size() - 1);
 }
 
+TEST(VantrelApp, PlaysAShippedStoryOnItsOwnDesk) {
+    const Outcome outcome = run({"--play", "return-good", "--virtual-time"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.output.rfind("Back from a good monitor\n", 0), 0U);
+    EXPECT_NE(outcome.output.find("\nDesk: Default\n"), std::string::npos);
+    EXPECT_NE(outcome.output.find("\nHalden HX27 (id 2)\n"), std::string::npos);
+}
+
+TEST(VantrelApp, PlaysAStoryOnAnotherDesk) {
+    const Outcome outcome = run({"--simulate", "slow", "--play", "return-good", "--virtual-time"});
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_NE(outcome.output.find("\nDesk: Slow switcher\n"), std::string::npos);
+}
+
+TEST(VantrelApp, TakesTheStorysDeskWhenSimulateNamesNone) {
+    EXPECT_EQ(run({"--simulate", "--play", "wake", "--virtual-time"}).output,
+              run({"--play", "wake", "--virtual-time"}).output);
+}
+
+TEST(VantrelApp, TakesTheDefaultDeskWhenNeitherStoryNorSimulateNamesOne) {
+    const Folder folder;
+    const std::string file = folder.file("story.json", R"({"title": "T", "steps": []})");
+    const Outcome outcome = run({"--simulate", "--play", file, "--virtual-time"});
+    EXPECT_NE(outcome.output.find("\nDesk: Default\n"), std::string::npos) << outcome.errors;
+}
+
+TEST(VantrelApp, WantsADeskForAStoryWithoutOne) {
+    const Folder folder;
+    const std::string file = folder.file("story.json", R"({"title": "T", "steps": []})");
+    const Outcome outcome = run({"--play", file, "--virtual-time"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "vantrel: " + file + ": names no desk; use --simulate DESK (see --help)\n");
+}
+
+TEST(VantrelApp, ShowsAStorysLogFromTheLevelOn) {
+    const Outcome all = run({"--play", "return-good", "--virtual-time", "--log", "debug"});
+    EXPECT_NE(all.output.find(" s  debug    ddc "), std::string::npos);
+    EXPECT_EQ(all.errors, "");
+    const Outcome few = run({"--play", "return-good", "--virtual-time", "--log", "fault"});
+    EXPECT_EQ(few.output.find(" s  default "), std::string::npos);
+}
+
+TEST(VantrelApp, NamesFilePlaceAndReasonOfAMistakeInAStory) {
+    const Folder folder;
+    const std::string file =
+        folder.file("story.json", R"({"title": "T", "steps": [{"atMs": 0, "do": "jump"}]})");
+    const Outcome outcome = run({"--simulate", "--play", file});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "vantrel: " + file + ": steps[0].do: \"jump\" is not an action\n");
+}
+
+TEST(VantrelApp, NamesThePlaceInAStoryThatTheDeskDoesNotFit) {
+    const Outcome outcome = run({"--simulate", "twins", "--play", "output-dead"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.errors,
+              "vantrel: stories/output-dead.json: steps[0].display: the desk \"Twins\" has no display 5\n");
+}
+
+TEST(VantrelApp, ListsTheShippedStoriesWhenNeitherStoryNorFileIsFound) {
+    const Outcome outcome = run({"--play", "retrun"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(
+        outcome.errors.rfind("vantrel: there is no story file retrun, and no story of that name among ", 0),
+        0U);
+    EXPECT_NE(outcome.errors.find("return-good"), std::string::npos);
+    EXPECT_EQ(outcome.errors.find('\n'), outcome.errors.size() - 1);
+}
+
+TEST(VantrelApp, MissesTheDeskOfAStory) {
+    EXPECT_NE(run({"--simulate", "defalt", "--play", "wake"}).errors.find("there is no desk file defalt"),
+              std::string::npos);
+}
+
 TEST(VantrelApp, ParsesCapabilitiesFromStandardInput) {
     const Outcome outcome = run({"--parse-capabilities"}, "(model(X1)vcp(10 14(05 08)))");
     EXPECT_EQ(outcome.status, 0);

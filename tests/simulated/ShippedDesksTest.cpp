@@ -90,8 +90,8 @@ TEST(ShippedDesks, HaveTheFilesTextsByteForByte) {
 }
 
 TEST(ShippedDesks, BeginWithTheDefault) {
-    EXPECT_THAT(shippedNames(),
-                testing::ElementsAre("default", "hostile", "large", "slow", "stubborn", "twins", "wake"));
+    EXPECT_THAT(shippedNames(), testing::ElementsAre("default", "hostile", "inputs", "large", "slow",
+                                                     "stubborn", "twins", "wake"));
 }
 
 TEST(ShippedDesks, HaveATitleAndADescriptionOfOneLine) {

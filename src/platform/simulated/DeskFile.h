@@ -11,27 +11,25 @@
 #include <vector>
 
 #include "platform/simulated/Desk.h"
-#include "platform/simulated/DeskFileError.h"
+#include "platform/simulated/FileError.h"
+#include "platform/simulated/JSONFile.h"
+#include "platform/simulated/Words.h"
 
 namespace vantrel::simulated {
 
+using DeskFileError = FileError;
 using DeskFileResult = std::variant<Desk, DeskFileError>;
 
 namespace DeskFile {
 
-// Far above any desk; keeps an endless file (a device) from filling the memory.
-constexpr std::size_t maximumBytes = 4U << 20;
+using JSONFile::maximumBytes;
 
 // `file` is what the error calls the text.
 DeskFileResult readText(std::string_view text, std::string_view file);
 DeskFileResult readFile(const std::filesystem::path& path);
 
-// The words that a desk file may use in one kind of object or value.
-struct Words {
-    // The heading that docs/simulation.md describes them under.
-    std::string_view heading;
-    std::vector<std::string_view> words;
-};
+using simulated::Words;
+// Described in docs/simulation.md.
 std::vector<Words> vocabulary();
 
 }  // namespace DeskFile

@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/simulated/DeskFile.h"
 #include "platform/simulated/JSONPlace.h"
+#include "platform/simulated/Words.h"
 
 namespace vantrel::simulated {
 
@@ -26,7 +26,7 @@ struct Field {
 
 template <class Plan>
 struct ObjectShape {
-    // In docs/simulation.md.
+    // In the format's document.
     std::string_view heading;
     // Read in this order.
     std::vector<Field<Plan>> fields;
@@ -55,8 +55,8 @@ struct ObjectShape {
         return plan;
     }
 
-    DeskFile::Words words() const {
-        DeskFile::Words result{heading, {}};
+    Words words() const {
+        Words result{heading, {}};
         for (const Field<Plan>& field : fields) result.words.push_back(field.key);
         return result;
     }

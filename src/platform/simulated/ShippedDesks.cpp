@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/simulated/ShippedDeskTexts.h"
+#include "platform/simulated/ShippedDesksTexts.h"
 #include "runtime/Fatal.h"
 
 namespace vantrel::simulated::ShippedDesks {
@@ -14,7 +14,7 @@ std::string fileName(std::string_view name) { return "desks/" + std::string(name
 
 std::vector<Entry> list() {
     std::vector<Entry> result;
-    for (const ShippedDeskText& shipped : shippedDeskTexts()) {
+    for (const ShippedText& shipped : shippedDesksTexts()) {
         DeskFileResult desk = DeskFile::readText(shipped.text, fileName(shipped.name));
         if (const auto* error = std::get_if<DeskFileError>(&desk)) runtime::fatal(error->line());
         result.push_back({shipped.name, std::get<Desk>(std::move(desk)).description});
@@ -25,7 +25,7 @@ std::vector<Entry> list() {
 }
 
 std::optional<std::string_view> text(std::string_view name) {
-    for (const ShippedDeskText& shipped : shippedDeskTexts()) {
+    for (const ShippedText& shipped : shippedDesksTexts()) {
         if (shipped.name == name) return shipped.text;
     }
     return std::nullopt;

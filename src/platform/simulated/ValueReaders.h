@@ -9,11 +9,11 @@
 #include <utility>
 #include <vector>
 
-#include "platform/simulated/DeskFile.h"
 #include "platform/simulated/JSONPlace.h"
 #include "platform/simulated/JSONText.h"
 #include "platform/simulated/ObjectShape.h"
 #include "platform/simulated/Personality.h"
+#include "platform/simulated/Words.h"
 
 namespace vantrel::simulated::ValueReaders {
 
@@ -61,7 +61,7 @@ auto listOf(Reader reader) {
 // A word for each value of an enumeration.
 template <class Value>
 struct WordTable {
-    // In docs/simulation.md.
+    // In the format's document.
     std::string_view heading;
     std::vector<std::pair<std::string_view, Value>> entries;
 
@@ -77,8 +77,8 @@ struct WordTable {
         return std::nullopt;
     }
 
-    DeskFile::Words words() const {
-        DeskFile::Words result{heading, {}};
+    Words words() const {
+        Words result{heading, {}};
         for (const auto& [name, value] : entries) result.words.push_back(name);
         return result;
     }

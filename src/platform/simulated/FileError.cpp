@@ -1,10 +1,10 @@
-#include "platform/simulated/DeskFileError.h"
+#include "platform/simulated/FileError.h"
 
 #include <algorithm>
 
 namespace vantrel::simulated {
 
-std::string DeskFileError::line() const {
+std::string FileError::line() const {
     std::string result = file + ": " + (place.empty() ? "" : place + ": ") + reason;
     // A file's name may hold line breaks.
     std::replace_if(

@@ -1,9 +1,10 @@
-# cmake -DOUTPUT=<file.cpp> -P WriteShippedDesks.cmake -- <desk.json>...
+# cmake -DOUTPUT=<file.cpp> -DNAME=<type> -DROOM=<room> -DROOM_FOLDER=<its folder below src>
+#       -DFOLDER=<the files' folder> -P WriteShippedTexts.cmake -- <file.json>...
 cmake_minimum_required(VERSION 3.25)
 
 # Some compilers take no string literal above 64 KiB.
 set(longest 65535)
-set(delimiter "desk-file")
+set(delimiter "shipped-file")
 
 set(entries "")
 set(behindDashes FALSE)
@@ -27,18 +28,19 @@ foreach(index RANGE ${last})
   endif()
 endforeach()
 
-file(WRITE "${OUTPUT}" "// Written by cmake/WriteShippedDesks.cmake from desks/*.json.
-#include \"platform/simulated/ShippedDeskTexts.h\"
+string(SUBSTRING ${NAME} 1 -1 function)
+file(WRITE "${OUTPUT}" "// Written by cmake/WriteShippedTexts.cmake from ${FOLDER}/*.json.
+#include \"${ROOM_FOLDER}/${NAME}.h\"
 
-namespace vantrel::simulated {
+namespace vantrel::${ROOM} {
 namespace {
 
-constexpr ShippedDeskText texts[] = {
+constexpr simulated::ShippedText texts[] = {
 ${entries}};
 
 }  // namespace
 
-std::span<const ShippedDeskText> shippedDeskTexts() { return texts; }
+std::span<const simulated::ShippedText> s${function}() { return texts; }
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::${ROOM}
 ")

@@ -1,11 +1,11 @@
-// A mistake in a desk file: which file, where in it, and what is wrong.
+// A mistake in a file from outside: which file, where in it, and what is wrong.
 #pragma once
 
 #include <string>
 
 namespace vantrel::simulated {
 
-struct DeskFileError {
+struct FileError {
     // As the caller named it.
     std::string file;
     // "displays[2].monitor.features.0x10.maximum", or "line 7, column 12" where
@@ -15,7 +15,7 @@ struct DeskFileError {
 
     // One line for a person: "file: place: reason".
     std::string line() const;
-    bool operator==(const DeskFileError&) const = default;
+    bool operator==(const FileError&) const = default;
 };
 
 }  // namespace vantrel::simulated
