@@ -45,6 +45,7 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
     const std::vector<std::string>& arguments) {
     CommandLine line;
     std::string simulate;
+    std::string state;
     std::string log;
     std::string parseCapabilities;
 
@@ -61,6 +62,9 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
             ->expected(0, 1)
             ->type_name("[FILE]");
     parser.add_flag("--virtual-time", line.virtualTime, "With --simulate: don't wait, let time jump");
+    const CLI::Option* stateOption =
+        parser.add_option("--state", state, "With --simulate: remember settings in the folder DIR")
+            ->type_name("DIR");
     const CLI::Option* logOption =
         parser.add_option("--log", log, std::string("Show the log from LEVEL on: ") + logLevelNames)
             ->type_name("LEVEL");
@@ -93,6 +97,13 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
     }
     if (line.virtualTime && !line.simulate) {
         return Mistake{oneLine("--virtual-time needs --simulate: real monitors answer in real time")};
+    }
+    if (stateOption->count() > 0) {
+        if (state.empty()) return Mistake{oneLine("--state: no folder is given")};
+        if (!line.simulate) {
+            return Mistake{oneLine("--state needs --simulate: settings for real monitors have their place")};
+        }
+        line.state = state;
     }
     return line;
 }

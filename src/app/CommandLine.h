@@ -18,6 +18,8 @@ struct CommandLine {
     std::optional<std::string> simulate;
     // Time passes only while nobody works; for a simulated desk.
     bool virtualTime = false;
+    // The folder of what a simulated desk's program remembers, unless it is the usual one.
+    std::optional<std::string> state;
     // Log lines at this level and above go to standard error.
     std::optional<platform::LogLevel> log;
     // Parses a capabilities string: from this file, or from standard input when empty.

@@ -33,6 +33,7 @@ TEST(CommandLine, AsksForNothingWithoutArguments) {
     EXPECT_FALSE(line.probe);
     EXPECT_FALSE(line.simulate);
     EXPECT_FALSE(line.virtualTime);
+    EXPECT_FALSE(line.state);
     EXPECT_FALSE(line.log);
     EXPECT_FALSE(line.parseCapabilities);
 }
@@ -90,6 +91,21 @@ TEST(CommandLine, RefusesVirtualTimeForRealMonitors) {
     EXPECT_TRUE(parsed({"--virtual-time", "--simulate"}).virtualTime);
 }
 
+TEST(CommandLine, TakesAFolderForTheStateOfASimulation) {
+    EXPECT_EQ(parsed({"--simulate", "--state", "a folder"}).state, "a folder");
+    EXPECT_EQ(parsed({"--state=folder", "--simulate", "twins"}).state, "folder");
+}
+
+TEST(CommandLine, WantsAFolderAfterState) {
+    EXPECT_EQ(mistakeOf({"--simulate", "--state"}), "--state: 1 required DIR missing (see --help)");
+    EXPECT_EQ(mistakeOf({"--simulate", "--state", ""}), "--state: no folder is given (see --help)");
+}
+
+TEST(CommandLine, RefusesAnotherPlaceForTheSettingsOfRealMonitors) {
+    EXPECT_EQ(mistakeOf({"--state", "folder"}),
+              "--state needs --simulate: settings for real monitors have their place (see --help)");
+}
+
 TEST(CommandLine, TakesAFileOrNoneToParse) {
     EXPECT_EQ(parsed({"--parse-capabilities"}).parseCapabilities, "");
     EXPECT_EQ(parsed({"--parse-capabilities", "raw.txt"}).parseCapabilities, "raw.txt");
@@ -97,8 +113,8 @@ TEST(CommandLine, TakesAFileOrNoneToParse) {
 
 TEST(CommandLine, HelpNamesEveryOptionAndEveryShippedDesk) {
     const std::string help = textOf({"--help"});
-    for (const char* option : {"--probe", "--simulate", "--virtual-time", "--log", "--parse-capabilities",
-                               "--help", "--version"}) {
+    for (const char* option : {"--probe", "--simulate", "--virtual-time", "--state", "--log",
+                               "--parse-capabilities", "--help", "--version"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }
     for (const auto& desk : simulated::ShippedDesks::list()) {
