@@ -1,7 +1,7 @@
 """Includes agree with the rooms' LINKS lists in src/CMakeLists.txt.
 
 A room may include itself and what it links, directly or through another room.
-Only src/app and the tests may name the simulated platform."""
+Only src/app and the tests may name an implementation of the platform."""
 
 import posixpath
 import re
@@ -10,9 +10,9 @@ import cpp
 from tree import Finding
 
 ROOMS = "src/CMakeLists.txt"
-# Rooms that choose the implementation of the platform, and that implementation.
+# The room that chooses the implementation of the platform, and the implementations.
 APPLICATION = "src/app"
-SIMULATED = "src/platform/simulated"
+IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix")
 
 # What a library of the system is included as, and what has to be linked for it.
 LIBRARIES = {
@@ -83,8 +83,8 @@ def _objection(header, is_angled, room, allowed, room_of, folder):
     target = "src/" + posixpath.dirname(header)
     if target not in room_of:
         return f'"{header}" is in no room; include as "room/Type.h"'
-    if target == SIMULATED and folder not in (SIMULATED, APPLICATION):
-        return "only src/app and the tests may name the simulated platform"
+    if target in IMPLEMENTATIONS and folder not in (target, APPLICATION):
+        return f"only src/app and the tests may name an implementation of the platform: {target}"
     if room_of[target] not in allowed:
         return f'{room} may not include "{header}": it does not link {room_of[target]}'
     return ""

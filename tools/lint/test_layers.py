@@ -9,7 +9,8 @@ vantrel_room(runtime LINKS vantrel_text Threads::Threads)
 vantrel_room(platform LINKS vantrel_runtime)
 vantrel_room(simulated FOLDER platform/simulated
              LINKS vantrel_platform nlohmann_json::nlohmann_json)
-vantrel_room(app LINKS vantrel_simulated CLI11::CLI11)
+vantrel_room(posix FOLDER platform/posix LINKS vantrel_platform)
+vantrel_room(app LINKS vantrel_simulated vantrel_posix CLI11::CLI11)
 """
 
 
@@ -25,12 +26,18 @@ class LayersTest(unittest.TestCase):
     def test_a_room_may_not_include_what_it_does_not_link(self):
         self.assertEqual(len(reasons("src/runtime/Task.h", '#include "platform/Log.h"\n')), 1)
 
-    def test_only_the_application_may_name_the_simulated_platform(self):
+    def test_only_the_application_may_name_an_implementation_of_the_platform(self):
         include = '#include "platform/simulated/Desk.h"\n'
         self.assertEqual(reasons("src/app/main.cpp", include), [])
         self.assertEqual(reasons("src/platform/simulated/Desk.cpp", include), [])
         (reason,) = reasons("src/platform/Log.h", include)
         self.assertIn("only src/app", reason)
+
+    def test_implementations_of_the_platform_do_not_name_each_other(self):
+        include = '#include "platform/posix/FileSystem.h"\n'
+        self.assertEqual(reasons("src/app/main.cpp", include), [])
+        self.assertEqual(reasons("src/platform/posix/StateFile.cpp", include), [])
+        self.assertEqual(len(reasons("src/platform/simulated/Desk.cpp", include)), 1)
 
     def test_a_library_has_to_be_linked_too(self):
         include = "#include <nlohmann/json.hpp>\n"
