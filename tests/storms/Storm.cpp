@@ -12,8 +12,8 @@ namespace {
 constexpr std::uint64_t deskStream = 0;
 constexpr std::uint64_t stepStream = 1;
 
-constexpr std::uint64_t fewestSteps = 20;
-constexpr std::uint64_t mostSteps = 70;
+constexpr std::uint64_t fewestSteps = 30;
+constexpr std::uint64_t mostSteps = 150;
 
 }  // namespace
 

@@ -86,6 +86,7 @@ class Storm {
     DisplayID someExternal();
     void plug(DisplayID display);
     void unplug(DisplayID display);
+    void exchange(DisplayID display);
     void happenToMonitor(DisplayID display);
     void givePlace(DisplayID display);
 

@@ -39,6 +39,7 @@ void Storm::happen() {
         counts_.note(Seen::reconfiguration);
         return world.reconfigure(display, static_cast<std::uint32_t>(random_.uniform(0, 0x100)));
     }
+    if (kind < 4) return exchange(display);
     if (kind < 45) return world.isPluggedIn(display) ? unplug(display) : plug(display);
     happenToMonitor(display);
 }
@@ -67,6 +68,28 @@ void Storm::plug(DisplayID display) {
     nextStep("plug " + std::to_string(display) + " in as " +
              std::to_string(identifiers_.systemID(display).value_or(0)));
     simulated_.world().plug(display);
+}
+
+// Another monitor takes the display's place, identifier and all.
+void Storm::exchange(DisplayID display) {
+    simulated::World& world = simulated_.world();
+    const DisplayID other = someExternal();
+    const auto id = identifiers_.systemID(display);
+    if (other == display || !id || !world.isPluggedIn(display)) return;
+    if (random_.chance(0.5)) {
+        // Best while the model is busy.
+        manager_->loadAll();
+        for (const Display& each : manager_->externals()) load(each);
+        runFor(random_.duration(0ms, 1s));
+    }
+    nextStep("plug " + std::to_string(other) + " in as " + std::to_string(*id) + " instead of " +
+             std::to_string(display));
+    counts_.note(Seen::plugUnderAnothersIdentifier);
+    world.unplug(other);
+    world.unplug(display);
+    invariants_.moved(*id);
+    identifiers_.give(other, *id);
+    world.plug(other);
 }
 
 // The identifier under which a display comes back.

@@ -109,7 +109,7 @@ void* Wire::lookUp(void*, const std::string& symbol) {
 }
 
 std::unique_ptr<platform::RegistryIterator> Wire::iterateServicePlane() {
-    walks_.push_back(0);
+    walks_.push_back({running(), {}});
     return registry_.iterateServicePlane();
 }
 
@@ -121,8 +121,9 @@ void Wire::releaseService(const void* service) {
 const void* Wire::create(const void* allocator, std::uint32_t entry) {
     const void* const service = system_.avCreate()(allocator, entry);
     if (service == nullptr) return nullptr;
-    ++walks_.back();
-    handles_[service] = {world_.desk().registry.at(entry - 1).display, walks_.size() - 1};
+    const DisplayID monitor = world_.desk().registry.at(entry - 1).display;
+    walks_.back().found.push_back(monitor);
+    handles_[service] = {monitor, walks_.size() - 1};
     return service;
 }
 
@@ -173,10 +174,16 @@ void Wire::begin(const void* service) {
     const bool isNew = std::exchange(who.monitor, handle.monitor) != handle.monitor;
     if (!isNew || who.key == keyOf(handle.monitor)) return;
     counts_.note(Seen::workerStrayed);
-    const bool wasTheOnlyOne = walks_[handle.walk] == 1;
-    verdict_.unless(
-        allowsMistakes_ || wasTheOnlyOne,
-        "the worker of " + who.key + " talks to " + keyOf(handle.monitor) + " though it had the choice");
+    if (!allowsMistakes_ && !hadNoChoice(who, walks_[handle.walk]))
+        verdict_.broken("the worker of " + who.key + " talks to " + keyOf(handle.monitor) +
+                        " though it had the choice");
+}
+
+// A lone service fits anybody: for a worker that looks for a new handle the only
+// one there is, for a new model the only one that is left.
+bool Wire::hadNoChoice(const Worker& who, const Walk& walk) const {
+    if (walk.by != noWorker) return walk.found.size() == 1;
+    return std::ranges::none_of(walk.found, [&](DisplayID monitor) { return keyOf(monitor) == who.key; });
 }
 
 void Wire::end(DisplayID monitor) {

@@ -85,6 +85,12 @@ class Wire : public platform::SymbolLoader, public platform::Registry {
         DisplayID monitor = 0;
         std::size_t walk = 0;
     };
+    // Over the registry.
+    struct Walk {
+        WorkerNumber by = noWorker;
+        // The monitors that it found.
+        std::vector<DisplayID> found;
+    };
     struct Line {
         std::multiset<WorkerNumber> busy;
         WorkerNumber lastWriter = noWorker;
@@ -95,6 +101,7 @@ class Wire : public platform::SymbolLoader, public platform::Registry {
     void begin(const void* service);
     void end(DisplayID monitor);
     void noteSet(DisplayID monitor, const std::uint8_t* bytes, std::uint32_t length, std::int32_t status);
+    bool hadNoChoice(const Worker& who, const Walk& walk) const;
     std::string keyOf(DisplayID monitor) const;
 
     platform::PrivateFunctions& system_;
@@ -107,8 +114,7 @@ class Wire : public platform::SymbolLoader, public platform::Registry {
     bool allowsMistakes_ = false;
     std::vector<Worker> workers_;
     std::map<const void*, Handle> handles_;
-    // Services found by each walk over the registry.
-    std::vector<int> walks_{0};
+    std::vector<Walk> walks_{1};
     std::map<DisplayID, Line> lines_;
     std::map<DisplayID, Values> taken_;
 };
