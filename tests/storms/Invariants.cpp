@@ -85,7 +85,7 @@ void Invariants::noteModel(std::string_view line) {
     if (line.find("DDC service found") == std::string_view::npos) return;
     ++modelsWithService_;
     verdict_.unless(modelsWithService_ == scheduler_.started(), "a model has not exactly one queue");
-    workerOf_[display] = scheduler_.newestWorker();
+    newestWorkerOf_[display] = scheduler_.newestWorker();
     wire_.worker(scheduler_.newestWorker()).key = ofKey;
 }
 
@@ -162,13 +162,15 @@ void Invariants::checkReuse(const Display& display) {
 
 void Invariants::adopt(const Display& display) {
     std::erase_if(models_,
-                  [](const auto& watched) { return watched->model.expired() && !watched->isSpinning; });
+                  [](const auto& watched) { return watched->model.expired() && watched->owner == 0; });
     const auto isIt = [&display](const auto& watched) { return watched->model.lock() == display; };
     if (std::ranges::any_of(models_, isIt)) return;
     auto& watched = *models_.emplace_back(std::make_unique<WatchedModel>());
     watched.model = display;
     watched.name = display->name();
     watched.key = display->key();
+    // Of the models under one identifier the newest is the one that was just made.
+    if (display->hasWorker()) watched.worker = newestWorkerOf_.at(display->id());
     verdict_.unless(!display->isReturningToMac(), "a new model returns to the computer already");
     watchSpinner(watched);
 }
@@ -306,9 +308,10 @@ void Invariants::userClearsError(const std::function<void()>& clear) {
     isUserClearing_ = false;
 }
 
-Wire::WorkerNumber Invariants::workerOf(DisplayID display) const {
-    const auto found = workerOf_.find(display);
-    return found == workerOf_.end() ? Wire::noWorker : found->second;
+Wire::WorkerNumber Invariants::workerOf(const Display& display) const {
+    const auto isIt = [&display](const auto& watched) { return watched->model.lock() == display; };
+    const auto found = std::ranges::find_if(models_, isIt);
+    return found == models_.end() ? Wire::noWorker : (*found)->worker;
 }
 
 bool Invariants::isAnySpinnerOn() const {

@@ -46,8 +46,8 @@ class Invariants {
     void checkStore();
 
     void userClearsError(const std::function<void()>& clear);
-    // The queue that the newest model of the display has.
-    Wire::WorkerNumber workerOf(DisplayID display) const;
+    // The queue of a model; noWorker when it has none.
+    Wire::WorkerNumber workerOf(const Display& display) const;
     bool isAnySpinnerOn() const;
     bool isAnythingLoading() const;
     // An identifier that went from one display to another.
@@ -77,8 +77,9 @@ class Invariants {
     void errorChanged();
     void watchError();
     void watchSpinner(WatchedModel& model);
-    // The only living model of that name: one that was plugged in under two
-    // identifiers has two, which lines of the log can't tell apart.
+    // The only model of that name that ever returned to the computer: a monitor
+    // that was plugged in under two identifiers has two models, which lines of the
+    // log can't tell apart.
     WatchedModel* only(std::string_view name);
     bool lastLineIs(const std::string& line) const { return lastLine_ == line; }
 
@@ -95,7 +96,7 @@ class Invariants {
     std::string lastLine_;
     bool isUserClearing_ = false;
     std::uint64_t modelsWithService_ = 0;
-    std::map<DisplayID, Wire::WorkerNumber> workerOf_;
+    std::map<DisplayID, Wire::WorkerNumber> newestWorkerOf_;
     std::map<std::string, int> madeByKey_;
     // As the last refresh left them.
     std::map<DisplayID, KnownModel> knownBefore_;

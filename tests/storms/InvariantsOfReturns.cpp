@@ -46,7 +46,7 @@ void Invariants::watchSpinner(WatchedModel& model) {
 WatchedModel* Invariants::only(std::string_view name) {
     WatchedModel* found = nullptr;
     for (const auto& watched : models_) {
-        if (watched->model.expired() || watched->name != name) continue;
+        if (watched->owner == 0 || watched->name != name) continue;
         if (found != nullptr) return nullptr;
         found = watched.get();
     }
@@ -96,7 +96,7 @@ void Invariants::settled(WatchedModel& model) {
     if (model.isSpinning) return;
     counts_.note(Seen::settledThoughSuperseded);
     const auto living = model.model.lock();
-    verdict_.unless(living->inputRequest() != model.owner,
+    verdict_.unless(living && living->inputRequest() != model.owner,
                     "the spinner of " + model.name + " went out before its return had ended");
 }
 

@@ -83,7 +83,7 @@ void Storm::expectEverybodyReady() {
 
 // The monitor at the end of its line; nothing before the first transfer.
 std::optional<Storm::DisplayID> Storm::monitorOf(const Display& display) {
-    const auto worker = invariants_.workerOf(display->id());
+    const auto worker = invariants_.workerOf(display);
     if (!display->hasWorker() || worker == Wire::noWorker) return std::nullopt;
     return wire_.worker(worker).monitor;
 }
@@ -100,7 +100,9 @@ void Storm::expectValuesToArrive() {
     nextStep("values arrive");
     wire_.forgetTaken();
     for (int round = 0; round < 3; ++round) {
-        for (const Display& display : manager_->externals()) {
+        // A copy: the list may change while time passes.
+        const auto displays = manager_->externals();
+        for (const Display& display : displays) {
             if (random_.chance(0.3)) manager_->loadAll();
             for (std::uint64_t moves = random_.uniform(1, 12); moves > 0; --moves) {
                 if (const Feature feature = someFeature(display)) write(display, feature, someValue(feature));

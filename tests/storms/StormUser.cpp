@@ -157,7 +157,7 @@ void Storm::forget() {
 void Storm::write(const Display& display, const Feature& feature, std::uint16_t value) {
     display->set(*feature, value);
     verdict_.unless(feature->current.get() == value, "a value set is not shown at once");
-    if (display->hasWorker()) asked_[invariants_.workerOf(display->id())][feature->code] = value;
+    if (display->hasWorker()) asked_[invariants_.workerOf(display)][feature->code] = value;
 }
 
 void Storm::setValue(const Display& display) {
@@ -192,7 +192,7 @@ void Storm::trigger(const Display& display) {
     counts_.note(Seen::trigger);
     display->trigger(*action);
     if (!display->hasWorker()) return;
-    asked_[invariants_.workerOf(display->id())][action->code] = action->info.actionValue;
+    asked_[invariants_.workerOf(display)][action->code] = action->info.actionValue;
 }
 
 void Storm::load(const Display& display) {

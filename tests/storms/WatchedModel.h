@@ -6,6 +6,7 @@
 #include "model/ExternalDisplay.h"
 #include "runtime/Observable.h"
 #include "runtime/Time.h"
+#include "storms/Wire.h"
 
 namespace vantrel::storms {
 
@@ -15,6 +16,7 @@ struct WatchedModel {
     // Outlives the model.
     std::string name;
     std::string key;
+    Wire::WorkerNumber worker = Wire::noWorker;
 
     std::unique_ptr<runtime::Observer> spinnerObserver;
     bool isSpinning = false;

@@ -172,11 +172,14 @@ void Wire::begin(const void* service) {
 
     Worker& who = worker(number);
     const bool isNew = std::exchange(who.monitor, handle.monitor) != handle.monitor;
-    if (!isNew || who.key == keyOf(handle.monitor)) return;
+    const std::string reached = keyOf(handle.monitor);
+    const bool isFirst = who.begunWith.empty();
+    if (isFirst) who.begunWith = reached;
+    if (!isNew || who.key == reached) return;
     counts_.note(Seen::workerStrayed);
-    if (!allowsMistakes_ && !hadNoChoice(who, walks_[handle.walk]))
-        verdict_.broken("the worker of " + who.key + " talks to " + keyOf(handle.monitor) +
-                        " though it had the choice");
+    const bool hasBegunThere = !isFirst && who.begunWith == reached;
+    if (!allowsMistakes_ && !hasBegunThere && !hadNoChoice(who, walks_[handle.walk]))
+        verdict_.broken("the worker of " + who.key + " talks to " + reached + " though it had the choice");
 }
 
 // A lone service fits anybody: for a worker that looks for a new handle the only

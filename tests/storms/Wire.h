@@ -32,6 +32,9 @@ class Wire : public platform::SymbolLoader, public platform::Registry {
     struct Worker {
         // Key of the display that its model is of; empty until that is known.
         std::string key;
+        // Key of the monitor behind the service that its model began with: the one
+        // that it looks for again. Empty before the first transfer.
+        std::string begunWith;
         // The last Set VCP of each code, whether the monitor took it or not.
         Values sent;
         // The monitor at the end of its handle.
