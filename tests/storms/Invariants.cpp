@@ -5,6 +5,7 @@
 #include <chrono>
 #include <set>
 
+#include "model/VCPCodes.h"
 #include "persistence/Store.h"
 #include "platform/simulated/TransferTables.h"
 
@@ -57,6 +58,8 @@ void Invariants::end() {
     errorObserver_.reset();
     models_.clear();
     madeByKey_.clear();
+    loaders_.clear();
+    loads_.clear();
     knownBefore_.clear();
     externalsBefore_.clear();
     manager_ = nullptr;
@@ -67,6 +70,7 @@ void Invariants::onLine(std::string_view text) {
     if (manager_ != nullptr) {
         if (text.starts_with("Refresh: ")) checkRefresh();
         lineOfReturn(text);
+        lineOfLoad(text);
     }
     if (text.starts_with("macOS refused to turn output off")) counts_.note(Seen::refusedOff);
     if (text.starts_with("macOS refused to turn output back on")) counts_.note(Seen::refusedOn);
@@ -84,6 +88,8 @@ void Invariants::noteModel(std::string_view line) {
     counts_.note(Seen::modelMade);
     if (line.find("DDC service found") == std::string_view::npos) return;
     ++modelsWithService_;
+    constexpr std::size_t name = std::string_view("Model for ").size();
+    ++loaders_[std::string(line.substr(name, id - 5 - name))];
     verdict_.unless(modelsWithService_ == scheduler_.started(), "a model has not exactly one queue");
     newestWorkerOf_[display] = scheduler_.newestWorker();
     wire_.worker(scheduler_.newestWorker()).key = ofKey;
@@ -194,7 +200,12 @@ void Invariants::notePruned(const std::vector<DisplayID>& online) {
     for (const auto& entry : disabledBefore_) {
         const auto& now = manager_->disabled();
         if (std::ranges::find(now, entry) != now.end()) continue;
-        counts_.note(contains(online, entry.id) ? Seen::prunedAsBack : Seen::prunedByKey);
+        const auto isReplaced = [&](const auto& other) { return other.id == entry.id; };
+        if (std::ranges::any_of(now, isReplaced)) continue;
+        const bool isBack = contains(online, entry.id);
+        counts_.note(isBack ? Seen::prunedAsBack : Seen::prunedByKey);
+        verdict_.unless(isBack || Store::hasSerialNumber(entry.key),
+                        "a monitor like others of its model was taken for one that was turned off");
     }
     disabledBefore_ = manager_->disabled();
 }
@@ -206,6 +217,8 @@ void Invariants::check() {
     std::set<DisplayID> ids;
     for (const auto& entry : manager_->disabled()) {
         verdict_.unless(ids.insert(entry.id).second, "an identifier occurs twice in disabled");
+        // Turning off refreshes at once, so only the other way takes a moment.
+        verdict_.unless(manager_->offline().contains(entry.id), "a display turned off is not shown as such");
     }
     verdict_.unless(Store::disabledDisplays(defaults_) == manager_->disabled(),
                     "the stored list of displays turned off is not the one shown");
@@ -259,6 +272,12 @@ void Invariants::checkDimmers() {
 
 void Invariants::checkStore() {
     if (manager_ == nullptr) return;
+    for (const auto& watched : models_) {
+        const Display model = watched->model.lock();
+        const auto& custom = model ? model->inputSettings().customInputs() : std::nullopt;
+        if (custom && model->feature(model::inputSource))
+            verdict_.unless(model->inputs() == *custom, "the inputs offered are not the user's own list");
+    }
     std::set<std::string> keys;
     for (const auto& watched : models_) keys.insert(watched->key);
     for (const std::string& key : keys) checkKey(key);

@@ -70,6 +70,7 @@ class Invariants {
     void checkKey(const std::string& key);
 
     void lineOfReturn(std::string_view text);
+    void lineOfLoad(std::string_view text);
     void attemptBegins(WatchedModel& model, int attempt);
     void attemptFailed(WatchedModel& model, int attempt);
     void settled(WatchedModel& model);
@@ -98,6 +99,9 @@ class Invariants {
     std::uint64_t modelsWithService_ = 0;
     std::map<DisplayID, Wire::WorkerNumber> newestWorkerOf_;
     std::map<std::string, int> madeByKey_;
+    // Models with a queue, and loads under way, by name.
+    std::map<std::string, int, std::less<>> loaders_;
+    std::map<std::string, int, std::less<>> loads_;
     // As the last refresh left them.
     std::map<DisplayID, KnownModel> knownBefore_;
     std::vector<Display> externalsBefore_;

@@ -15,6 +15,8 @@ namespace {
 constexpr int attempts = 4;
 constexpr auto shortestWait = 20s;
 constexpr auto shortestWaitWithPulse = 28s;
+constexpr auto settlingTime = 2s;
+constexpr auto longestReading = 300ms;
 // With readings that wait for a busy queue.
 constexpr auto longestWait = 38s + 80s;
 
@@ -66,7 +68,18 @@ void Invariants::lineOfReturn(std::string_view text) {
         if (model != nullptr) attemptFailed(*model, numberAtEnd(text));
     } else if (text.find(": switching to Mac input ") != std::string_view::npos) {
         if (model != nullptr) attemptBegins(*model, numberAtEnd(text));
-    } else if (text.find("no DDC answer, marking unavailable") != std::string_view::npos) {
+    }
+}
+
+void Invariants::lineOfLoad(std::string_view text) {
+    const std::string name(text.substr(0, text.find(": ")));
+    const std::string_view what = text.substr(std::min(text.size(), name.size()));
+    if (what.starts_with(": loading features ")) {
+        verdict_.unless(++loads_[name] <= loaders_[name], "a model of " + name + " loads twice at once");
+    } else if (what.starts_with(": loaded ")) {
+        --loads_[name];
+    } else if (what.starts_with(": no DDC answer, marking unavailable")) {
+        --loads_[name];
         counts_.note(Seen::unavailable);
     }
 }
@@ -93,7 +106,14 @@ void Invariants::attemptFailed(WatchedModel& model, int attempt) {
 // ends as settled and dismisses the last error: the monitor does show the
 // computer. It leaves the spinner alone, and says nothing new.
 void Invariants::settled(WatchedModel& model) {
-    if (model.isSpinning) return;
+    // Three readings and the pauses between them, unless it is an older return
+    // that settles in the beginning of this one.
+    const auto waited = scheduler_.now() - model.attemptBegan;
+    const bool isOlder = model.attempt <= 1 && waited < longestReading;
+    if (model.isSpinning) {
+        verdict_.unless(isOlder || waited >= settlingTime, model.name + " settled without three readings");
+        return;
+    }
     counts_.note(Seen::settledThoughSuperseded);
     const auto living = model.model.lock();
     verdict_.unless(living && living->inputRequest() != model.owner,

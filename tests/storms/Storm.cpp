@@ -72,6 +72,7 @@ void Storm::rage() {
     const std::uint64_t steps = random_.uniform(fewestSteps, mostSteps);
     for (std::uint64_t each = 0; each < steps && !verdict_.isBroken(); ++each) {
         step();
+        afterEvent();
         runFor(someGap());
         invariants_.checkStore();
     }

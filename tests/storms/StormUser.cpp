@@ -118,6 +118,16 @@ void Storm::returnToMac(const Display& display) {
     counts_.note(Seen::returnToMac);
     manager_->start(manager_->returnToMac(display));
     if (random_.chance(0.5)) return;
+    if (random_.chance(0.3)) {
+        // Another input and back again, about when the last reading is on its way.
+        const auto on = manager_->disabled().empty() ? 0ms : 1500ms;
+        runFor(on + random_.duration(2100ms, 2500ms));
+        selectInput(display);
+        nextStep("and at once return " + describe(display));
+        counts_.note(Seen::returnToMac);
+        manager_->start(manager_->returnToMac(display));
+        return;
+    }
     // Most returns that something else meets are in the middle of it.
     runFor(random_.duration(0s, 12s));
     if (random_.chance(0.6)) {
@@ -232,13 +242,25 @@ void Storm::changeMacInput(const Display& display) {
 void Storm::editInputs(const Display& display) {
     nextStep("edit inputs of " + describe(display));
     counts_.note(Seen::editInputList);
+    const auto& custom = display->inputSettings().customInputs();
+    auto expected = display->inputs();
     switch (random_.uniform(0, 2)) {
-        case 0:
-            return display->addInput(anyInputs[random_.uniform(0, anyInputs.size() - 1)]);
-        case 1:
-            return display->removeInput(someInput(display));
+        case 0: {
+            const Input added = anyInputs[random_.uniform(0, anyInputs.size() - 1)];
+            display->addInput(added);
+            if (std::ranges::find(expected, added) != expected.end()) return;
+            expected.push_back(added);
+            return verdict_.unless(custom == expected, "an input added is not on the user's list");
+        }
+        case 1: {
+            const Input removed = someInput(display);
+            display->removeInput(removed);
+            std::erase(expected, removed);
+            return verdict_.unless(custom == expected, "an input removed is still on the user's list");
+        }
         default:
-            return display->setCustomInputs(std::nullopt);
+            display->setCustomInputs(std::nullopt);
+            return verdict_.unless(!custom, "the user's list of inputs was not given up");
     }
 }
 

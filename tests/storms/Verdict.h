@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "runtime/Fatal.h"
+
 namespace vantrel::storms {
 
 class Verdict {
@@ -14,6 +16,8 @@ class Verdict {
         doing_ = std::move(what);
     }
     void broken(const std::string& invariant) {
+        // A program that goes in circles never comes back to the storm.
+        if (++times_ > mostTimes) runtime::fatal(*text_);
         if (!text_) text_ = invariant + "\n  step " + std::to_string(step_) + ": " + doing_;
     }
     void unless(bool holds, const std::string& invariant) {
@@ -23,6 +27,9 @@ class Verdict {
     const std::optional<std::string>& text() const { return text_; }
 
   private:
+    static constexpr int mostTimes = 10000;
+
+    int times_ = 0;
     int step_ = 0;
     std::string doing_ = "start";
     std::optional<std::string> text_;
