@@ -31,10 +31,11 @@ function(vantrel_room name)
   target_link_libraries(vantrel_${name} PUBLIC ${ROOM_LINKS} PRIVATE vantrel_options)
 endfunction()
 
-# vantrel_tests(<room> [LINKS <library>...]): every tests/<room>/*.cpp, one ctest entry.
+# vantrel_tests(<room> [LINKS <library>...]): every tests/<room>/*.cpp but a main.cpp, one ctest entry.
 function(vantrel_tests room)
   cmake_parse_arguments(TESTS "" "" "LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${room}/*.h ${PROJECT_SOURCE_DIR}/tests/${room}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   if(NOT sources)
     return()
   endif()
