@@ -75,7 +75,7 @@ TEST(DefaultsValueJSON, KeepsDataThatIsNoJSON) {
 }
 
 TEST(DefaultsValueJSON, KeepsDataThatIsDeepJSON) {
-    for (const std::size_t depth : {31, 32, 33, 63, 64, 1000}) {
+    for (const std::size_t depth : {31U, 32U, 33U, 63U, 64U, 1000U}) {
         expectUnchanged(DefaultsData{std::string(depth, '[') + std::string(depth, ']')});
     }
 }

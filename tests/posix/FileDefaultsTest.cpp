@@ -281,11 +281,11 @@ TEST_F(FileDefaultsTest, WritesAgainWhatALossOfPowerCouldStillTake) {
 
 TEST_F(FileDefaultsTest, TellsOfEachTimeThatChangesCannotBeKept) {
     FileDefaults defaults = open();
-    for (int time = 0; time < 2; ++time) {
+    for (const auto& [first, second] : {std::pair(1, 2), std::pair(3, 4)}) {
         failingCall = "rename";
-        defaults.set("a", integer(2 * time));
+        defaults.set("a", integer(first));
         failingCall = "";
-        defaults.set("a", integer(2 * time + 1));
+        defaults.set("a", integer(second));
     }
     EXPECT_EQ(log.lines().size(), 4U);
 }
