@@ -1,5 +1,6 @@
 // A series of changes, with something going wrong at each of its system calls.
 #include <gtest/gtest.h>
+#include <ostream>
 
 #include "platform/posix/FileDefaults.h"
 #include "support/FakeDisk.h"
@@ -29,6 +30,8 @@ struct Start {
     FakeDisk disk;
     Values values;
 };
+
+void PrintTo(const Start& start, std::ostream* stream) { *stream << start.name; }
 
 FakeDisk with(const std::string& bytes) {
     FakeDisk disk(folder);

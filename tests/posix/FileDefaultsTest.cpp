@@ -263,13 +263,29 @@ TEST_F(FileDefaultsTest, KeepsEarlierChangesWithALaterOne) {
                   line(LogLevel::standard, "changes are kept again in /state/settings.json")}));
 }
 
+TEST_F(FileDefaultsTest, WritesAgainWhatALossOfPowerCouldStillTake) {
+    int syncs = 0;
+    WatchedFileSystem unsynced(disk, [&](std::string_view call, const std::string&) {
+        // The folder's, after the file's own.
+        const bool fails = call == "sync" && ++syncs == 2;
+        return fails ? std::make_error_code(std::errc::io_error) : std::error_code();
+    });
+    FileDefaults defaults(unsynced, "/state", log);
+    defaults.set("a", integer(1));
+    defaults.set("a", integer(1));
+    for (FakeDisk& left : disk.afterPowerLoss()) {
+        EXPECT_EQ(FileDefaults(left, "/state", log).value("a"), integer(1));
+    }
+    EXPECT_EQ(log.lines().size(), 2U);
+}
+
 TEST_F(FileDefaultsTest, TellsOfEachTimeThatChangesCannotBeKept) {
     FileDefaults defaults = open();
-    for (int time = 0; time < 2; ++time) {
+    for (const auto& [first, second] : {std::pair(1, 2), std::pair(3, 4)}) {
         failingCall = "rename";
-        defaults.set("a", integer(2 * time));
+        defaults.set("a", integer(first));
         failingCall = "";
-        defaults.set("a", integer(2 * time + 1));
+        defaults.set("a", integer(second));
     }
     EXPECT_EQ(log.lines().size(), 4U);
 }
