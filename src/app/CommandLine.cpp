@@ -49,6 +49,12 @@ std::optional<CommandLine::Mistake> wrongCombination(const CommandLine& line) {
         return CommandLine::Mistake{
             oneLine("--virtual-time needs --simulate: real monitors answer in real time")};
     }
+    if (line.state && line.state->empty())
+        return CommandLine::Mistake{oneLine("--state: no folder is given")};
+    if (line.state && !line.simulate && !line.play) {
+        return CommandLine::Mistake{
+            oneLine("--state needs --simulate: settings for real monitors have their place")};
+    }
     return std::nullopt;
 }
 
@@ -59,6 +65,7 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
     CommandLine line;
     std::string simulate;
     std::string play;
+    std::string state;
     std::string log;
     std::string parseCapabilities;
 
@@ -82,6 +89,12 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
                         "Play what happens on a simulated desk and print it: a story file or the name of a "
                         "story below, which has a desk of its own; --simulate names another")
             ->type_name("STORY");
+    const CLI::Option* stateOption =
+        parser
+            .add_option("--state", state,
+                        "With --simulate or --play: remember settings in the folder DIR; without it, a story "
+                        "begins with none")
+            ->type_name("DIR");
     const CLI::Option* logOption =
         parser
             .add_option("--log", log,
@@ -110,6 +123,7 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
 
     if (simulateOption->count() > 0) line.simulate = simulate;
     if (playOption->count() > 0) line.play = play;
+    if (stateOption->count() > 0) line.state = state;
     if (parseOption->count() > 0) line.parseCapabilities = parseCapabilities;
     if (logOption->count() > 0) {
         const auto level = logLevels.find(log);

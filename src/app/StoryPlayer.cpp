@@ -12,14 +12,15 @@
 namespace vantrel::app {
 
 StoryPlayer::StoryPlayer(const Story& story, simulated::Desk desk, runtime::Scheduler& scheduler,
-                         std::ostream& output, platform::LogLevel least)
+                         std::ostream& output, platform::LogLevel least, std::optional<std::string> state)
     : story_(story),
       scheduler_(scheduler),
       output_(output),
       log_(scheduler, output, least),
       loop_(scheduler),
+      defaults_(std::move(state), log_),
       simulated_(std::move(desk), scheduler, loop_),
-      platform_(simulated_.platform(log_)),
+      platform_(simulated_.platform(log_, defaults_)),
       error_([this] { loop_.post([this] { showError(); }); }) {}
 
 StoryPlayer::~StoryPlayer() {
@@ -48,6 +49,7 @@ void StoryPlayer::announce() {
 }
 
 void StoryPlayer::startProgram() {
+    defaults_.open();
     manager_ = std::make_unique<model::DisplayManager>(platform_);
     showError();
 }

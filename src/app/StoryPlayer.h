@@ -6,9 +6,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <ostream>
+#include <string>
 
 #include "app/Story.h"
+#include "app/StoryDefaults.h"
 #include "app/StoryLog.h"
 #include "model/DisplayManager.h"
 #include "platform/Platform.h"
@@ -21,9 +24,10 @@ namespace vantrel::app {
 class StoryPlayer {
   public:
     // The desk has what the story needs (StoryCheck). Log lines from `least` on are
-    // printed. Everything given by reference must outlive the player.
+    // printed. Settings are in the folder `state`, or without one in memory. Everything
+    // given by reference must outlive the player.
     StoryPlayer(const Story& story, simulated::Desk desk, runtime::Scheduler& scheduler, std::ostream& output,
-                platform::LogLevel least);
+                platform::LogLevel least, std::optional<std::string> state = std::nullopt);
     StoryPlayer(const StoryPlayer&) = delete;
     StoryPlayer& operator=(const StoryPlayer&) = delete;
     ~StoryPlayer();
@@ -46,6 +50,7 @@ class StoryPlayer {
     std::ostream& output_;
     StoryLog log_;
     runtime::MainLoop loop_;
+    StoryDefaults defaults_;
     simulated::SimulatedPlatform simulated_;
     platform::Platform platform_;
     runtime::Observer error_;

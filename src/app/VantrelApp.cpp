@@ -133,7 +133,7 @@ int VantrelApp::runStory(const CommandLine& line) {
     }
     const auto scheduler = makeScheduler(line);
     StoryPlayer(story, std::get<simulated::Desk>(std::move(desk)), *scheduler, output_,
-                line.log.value_or(platform::LogLevel::standard))
+                line.log.value_or(platform::LogLevel::standard), line.state)
         .play();
     return ExitStatus::success;
 }

@@ -97,6 +97,9 @@ class DisplayManager {
 
     runtime::Task<bool> waitForInput(Input input, Display display, std::function<bool()> isCurrent);
     runtime::Task<> learnMacInput(Display display);
+    // After a pause, in which another output may have been turned off, the lid closed
+    // or a cable moved. Tells the user when a picture would be the last one.
+    bool mayStillTurnOff(const ExternalDisplay& display);
     runtime::Task<> turnOutputOn(DisabledDisplay entry);
     bool enable(DisplayID id, const std::string& name);
     void fail(const text::Text& text) { lastError_.set(platform_.localizer.shown(text)); }

@@ -75,16 +75,17 @@ runtime::Task<> DisplayManager::returnToMac(Display display) {
         log(LogLevel::standard, display->name() + ": switching to Mac input 0x" + text::upperHex(*mac) +
                                     ", attempt " + std::to_string(attempt));
         if (const auto feature = display->feature(inputSource)) display->set(*feature, *mac);
-        if (co_await waitForInput(*mac, display, isCurrent)) {
+        const bool hasSettled = co_await waitForInput(*mac, display, isCurrent);
+        // The error text and the spinner belong to the newer request now.
+        if (!isCurrent()) continue;
+        if (hasSettled) {
             log(LogLevel::standard, display->name() + ": monitor settled on the Mac input");
             clearLastError();
-            if (isCurrent()) display->setReturningToMac(false);
+            display->setReturningToMac(false);
             co_return;
         }
-        if (isCurrent()) {
-            log(LogLevel::standard,
-                display->name() + ": monitor did not take the Mac input, attempt " + std::to_string(attempt));
-        }
+        log(LogLevel::standard,
+            display->name() + ": monitor did not take the Mac input, attempt " + std::to_string(attempt));
     }
     if (!isCurrent()) co_return;
     fail(Text::translated("%@ did not return to the Mac's input. Try again or use the monitor's buttons.",

@@ -1,8 +1,10 @@
 // Turning the computer's output to a monitor off and on again.
+#include <algorithm>
 #include <chrono>
 
 #include "model/DisplayManager.h"
 #include "model/VCPCodes.h"
+#include "persistence/Store.h"
 #include "platform/DisplayToggler.h"
 #include "runtime/Sleep.h"
 #include "text/Hex.h"
@@ -13,20 +15,26 @@ using namespace std::chrono_literals;
 using platform::LogLevel;
 using platform::DisplayToggler::Output;
 using text::Text;
+namespace Store = persistence::Store;
 
 namespace {
 
 // The monitor begins to switch while it still has a picture from the computer.
 constexpr auto switchHeadStart = 300ms;
 
+Text onlyActiveDisplay() { return Text::translated("The Mac's only active display can't be turned off."); }
+
 }  // namespace
 
 runtime::Task<> DisplayManager::disableOutput(Display display, std::optional<Input> input) {
     if (displaysWithAPicture() < 2) {
-        fail(Text::translated("The Mac's only active display can't be turned off."));
+        fail(onlyActiveDisplay());
         co_return;
     }
-    if (!display->inputSettings().macInput()) co_await learnMacInput(display);
+    if (!display->inputSettings().macInput()) {
+        co_await learnMacInput(display);
+        if (!mayStillTurnOff(*display)) co_return;
+    }
 
     const std::optional<Input> target = input ? input : display->inputSettings().focusInput();
     const auto feature = display->feature(inputSource);
@@ -35,6 +43,7 @@ runtime::Task<> DisplayManager::disableOutput(Display display, std::optional<Inp
         auto headStart = runtime::sleep(platform_.mainLoop, switchHeadStart);
         co_await headStart;
     }
+    if (!mayStillTurnOff(*display)) co_return;
     log(LogLevel::standard, "Turning Mac output off for " + display->name() + " (id " +
                                 std::to_string(display->id()) + "), switching to " +
                                 (target ? "0x" + text::upperHex(*target) : "nothing"));
@@ -50,6 +59,21 @@ runtime::Task<> DisplayManager::disableOutput(Display display, std::optional<Inp
     setDisabled(std::move(all));
     clearLastError();
     refresh();
+}
+
+// Asks the system, because the inventory is a moment old.
+bool DisplayManager::mayStillTurnOff(const ExternalDisplay& display) {
+    const std::vector<DisplayID> online = platform_.displays.onlineDisplays();
+    const bool isOnline = std::ranges::find(online, display.id()) != online.end();
+    // Another monitor answers to its identifier by now.
+    if (isOnline && Store::displayKey(platform_.displays, display.id()) != display.key()) return false;
+
+    const auto isAnother = [&display](DisplayID id) { return id != display.id(); };
+    const bool isAnotherKnown =
+        builtIn() || std::ranges::any_of(externals(), isAnother, [](const Display& d) { return d->id(); });
+    if (isAnotherKnown && std::ranges::any_of(online, isAnother)) return true;
+    fail(onlyActiveDisplay());
+    return false;
 }
 
 // The monitor still shows this computer, so what it shows is the way back.

@@ -35,6 +35,7 @@ TEST(CommandLine, AsksForNothingWithoutArguments) {
     EXPECT_FALSE(line.simulate);
     EXPECT_FALSE(line.virtualTime);
     EXPECT_FALSE(line.play);
+    EXPECT_FALSE(line.state);
     EXPECT_FALSE(line.log);
     EXPECT_FALSE(line.parseCapabilities);
 }
@@ -110,6 +111,22 @@ TEST(CommandLine, PlaysNothingBesideWhatElseItDoes) {
               "--play and --parse-capabilities: one at a time (see --help)");
 }
 
+TEST(CommandLine, TakesAFolderForTheStateOfASimulation) {
+    EXPECT_EQ(parsed({"--simulate", "--state", "a folder"}).state, "a folder");
+    EXPECT_EQ(parsed({"--state=folder", "--simulate", "twins", "--probe"}).state, "folder");
+    EXPECT_EQ(parsed({"--play", "wake", "--state", "folder"}).state, "folder");
+}
+
+TEST(CommandLine, WantsAFolderAfterState) {
+    EXPECT_EQ(mistakeOf({"--simulate", "--state"}), "--state: 1 required DIR missing (see --help)");
+    EXPECT_EQ(mistakeOf({"--simulate", "--state", ""}), "--state: no folder is given (see --help)");
+}
+
+TEST(CommandLine, RefusesAnotherPlaceForTheSettingsOfRealMonitors) {
+    EXPECT_EQ(mistakeOf({"--probe", "--state", "folder"}),
+              "--state needs --simulate: settings for real monitors have their place (see --help)");
+}
+
 TEST(CommandLine, TakesAFileOrNoneToParse) {
     EXPECT_EQ(parsed({"--parse-capabilities"}).parseCapabilities, "");
     EXPECT_EQ(parsed({"--parse-capabilities", "raw.txt"}).parseCapabilities, "raw.txt");
@@ -117,7 +134,7 @@ TEST(CommandLine, TakesAFileOrNoneToParse) {
 
 TEST(CommandLine, HelpNamesEveryOptionShippedDeskAndStory) {
     const std::string help = textOf({"--help"});
-    for (const char* option : {"--probe", "--simulate", "--virtual-time", "--play", "--log",
+    for (const char* option : {"--probe", "--simulate", "--virtual-time", "--play", "--state", "--log",
                                "--parse-capabilities", "--help", "--version"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }

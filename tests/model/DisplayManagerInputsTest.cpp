@@ -70,6 +70,11 @@ class Desk {
         for (int step = 0; step < 6000 && rig.log.moments(text).empty(); ++step) rig.runFor(10ms);
         ASSERT_THAT(rig.log.moments(text), SizeIs(1)) << text;
     }
+    // Until the monitor was asked so often for its input; a minute at the most.
+    void runUntilRead(std::size_t times) {
+        for (int step = 0; step < 6000 && inputReads(alder()).size() < times; ++step) rig.runFor(10ms);
+        ASSERT_THAT(inputReads(alder()), SizeIs(times));
+    }
     // What was written to VCP 60.
     std::vector<std::uint16_t> written() {
         std::vector<std::uint16_t> result;
@@ -557,8 +562,8 @@ TEST(DisplayManagerSupersededReturn, InItsLastAttemptSaysNothingAtAll) {
     EXPECT_FALSE(desk.model().isReturningToMac());
 }
 
-// The reading that ends the wait was under way when the next return began.
-TEST(DisplayManagerSupersededReturn, ThatSettlesLeavesTheSpinnerOfTheNextOne) {
+// The reading that would settle it is under way when the next return begins.
+TEST(DisplayManagerSupersededReturn, DoesNotSettleAnyMore) {
     Desk desk(deskOf({stubborn()}));
     desk.beginToGiveBack();
     // The third reading takes from 2.18 s to 2.24 s.
@@ -567,9 +572,46 @@ TEST(DisplayManagerSupersededReturn, ThatSettlesLeavesTheSpinnerOfTheNextOne) {
     desk.beginToSelect(otherInput);
     desk.rig.runFor(1ms);
     desk.beginToGiveBack();
-    desk.runUntilLogged(settled);
+    desk.runUntilLogged(replaced);
+    EXPECT_THAT(desk.messages(), Not(Contains(settled)));
     EXPECT_TRUE(desk.model().isReturningToMac());
+    desk.runUntilLogged(settled);
+    EXPECT_FALSE(desk.model().isReturningToMac());
     EXPECT_EQ(desk.model().inputRequest(), 3);
+}
+
+TEST(DisplayManagerSupersededReturn, DoesNotSettleInItsLastAttemptEither) {
+    simulated::DisplayPlan plan = monitorPlan(2, "Alder");
+    plan.monitor->personality.inputSwitch.ignored.first = 3;
+    Desk desk(deskOf({plan}));
+    desk.alder().pressInputButton(otherInput);
+    desk.beginToGiveBack();
+    desk.rig.runFor(50s);
+    desk.runUntilLogged(attempt(4));
+    const std::size_t reads = inputReads(desk.alder()).size();
+    desk.runUntilRead(reads + 3);
+    desk.select(thirdInput);
+    desk.rig.runFor(10s);
+    for (const std::string& line : {settled, replaced, refused(4)})
+        EXPECT_THAT(desk.messages(), Not(Contains(line)));
+    EXPECT_EQ(desk.alder().shownInput(), thirdInput);
+}
+
+// The text of the newer request is there before the last reading of the older one.
+TEST(DisplayManagerSupersededReturn, LeavesTheErrorTextOfTheNextRequest) {
+    simulated::DisplayPlan plan = stubborn();
+    plan.monitor->personality.byteTime = 20ms;
+    Desk desk(deskWith(plan));
+    desk.beginToGiveBack();
+    desk.runUntilRead(3);
+    desk.rig.simulated.refuse(Refusal::enable);
+    desk.select(otherInput);
+    const auto text = desk.rig.manager->lastError();
+    ASSERT_EQ(text, "macOS refused to turn the output off for Alder.");
+    ASSERT_THAT(desk.messages(), Not(Contains(replaced)));
+    desk.rig.runFor(10s);
+    EXPECT_THAT(desk.messages(), Contains(replaced));
+    EXPECT_EQ(desk.rig.manager->lastError(), text);
 }
 
 TEST(DisplayManagerSupersededReturn, DoesNotConcernOtherMonitors) {

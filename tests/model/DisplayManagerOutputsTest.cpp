@@ -32,6 +32,7 @@ using World = simulated::World;
 const DisabledDisplay alderEntry{.id = 2, .key = "1000-22-102", .name = "Alder"};
 const std::string alderJSON = R"([{"id":2,"key":"1000-22-102","name":"Alder"}])";
 const std::string noMacInput = "Turning Mac output back on for Alder (id 2), no Mac input to switch to";
+const std::string onlyDisplay = "The Mac's only active display can't be turned off.";
 const std::string notBackOn = "Couldn't turn Alder back on. If it was disconnected, plug the cable back in.";
 
 class Desk {
@@ -90,7 +91,7 @@ class Desk {
 TEST(DisplayManagerDisableOutput, OfTheOnlyDisplayIsRefused) {
     Desk desk(deskOf({monitorPlan(2, "Alder")}));
     desk.turnOff(otherInput);
-    EXPECT_EQ(desk.manager().lastError(), "The Mac's only active display can't be turned off.");
+    EXPECT_EQ(desk.manager().lastError(), onlyDisplay);
     EXPECT_TRUE(desk.isShown());
 }
 
@@ -101,7 +102,7 @@ TEST(DisplayManagerDisableOutput, OfTheOnlyDisplayLeavesEverythingAsItIs) {
     desk.clear();
     desk.turnOff(otherInput);
     desk.rig.runFor(10s);
-    EXPECT_EQ(desk.manager().lastError(), "The Mac's only active display can't be turned off.");
+    EXPECT_EQ(desk.manager().lastError(), onlyDisplay);
     EXPECT_THAT(desk.written(), IsEmpty());
     EXPECT_THAT(desk.rig.log.lines(), IsEmpty());
     EXPECT_THAT(desk.rig.calls.calls(), IsEmpty());
@@ -126,8 +127,107 @@ TEST(DisplayManagerDisableOutput, DoesNotCountMonitorsThatAreOff) {
     Desk desk(deskOf({monitorPlan(2, "Alder"), monitorPlan(3, "Birch")}));
     desk.rig.perform(desk.manager().disableOutput(desk.rig.display(3), std::nullopt));
     desk.turnOff();
-    EXPECT_EQ(desk.manager().lastError(), "The Mac's only active display can't be turned off.");
+    EXPECT_EQ(desk.manager().lastError(), onlyDisplay);
     EXPECT_TRUE(desk.isShown());
+}
+
+// The only active display by the time its turn comes
+
+TEST(DisplayManagerDisableOutput, OfAllMonitorsAtOnceLeavesOne) {
+    Desk desk(deskOf({monitorPlan(2, "Alder"), monitorPlan(3, "Birch")}));
+    desk.manager().start(desk.manager().disableOutput(desk.rig.display(3), otherInput));
+    desk.turnOff(otherInput);
+    desk.rig.runFor(1s);
+    EXPECT_TRUE(desk.isShown());
+    EXPECT_FALSE(desk.rig.world().isOnline(3));
+    EXPECT_THAT(desk.rig.offlineIDs(), ElementsAre(3U));
+    EXPECT_EQ(desk.manager().lastError(), onlyDisplay);
+    EXPECT_THAT(desk.messages(), Not(Contains(HasSubstr("Turning Mac output off for Alder"))));
+}
+
+TEST(DisplayManagerDisableOutput, OfAllMonitorsWhileTheirInputsAreReadLeavesOne) {
+    Desk desk(deskOf({monitorPlan(2, "Alder"), monitorPlan(3, "Birch")}));
+    for (const platform::DisplayID id : {2U, 3U})
+        desk.rig.display(id)->inputSettings().setMacInput(std::nullopt);
+    desk.manager().start(desk.manager().disableOutput(desk.rig.display(3), std::nullopt));
+    desk.turnOff();
+    desk.rig.runFor(1s);
+    EXPECT_THAT(desk.rig.offlineIDs(), SizeIs(1));
+    EXPECT_EQ(desk.manager().lastError(), onlyDisplay);
+}
+
+// The inventory does not know it yet.
+TEST(DisplayManagerDisableOutput, WithTheLidClosedDuringTheHeadStartIsRefused) {
+    Desk desk(deskOf({panelPlan(), monitorPlan(2, "Alder")}));
+    desk.manager().start(desk.manager().disableOutput(desk.rig.display(2), otherInput));
+    desk.rig.runFor(200ms);
+    desk.rig.world().closeLid();
+    desk.rig.runFor(200ms);
+    ASSERT_TRUE(desk.manager().builtIn());
+    EXPECT_TRUE(desk.isShown());
+    EXPECT_EQ(desk.manager().lastError(), onlyDisplay);
+    EXPECT_THAT(desk.manager().disabled(), IsEmpty());
+    EXPECT_EQ(desk.rig.calls.count("begin configuration"), 0);
+}
+
+TEST(DisplayManagerDisableOutput, WithTheLidClosedDuringTheReadingWritesNoInput) {
+    Desk desk(deskOf({panelPlan(), monitorPlan(2, "Alder")}));
+    desk.model().inputSettings().setMacInput(std::nullopt);
+    desk.manager().start(desk.manager().disableOutput(desk.rig.display(2), otherInput));
+    desk.rig.runFor(1ms);
+    desk.rig.world().closeLid();
+    desk.rig.runFor(400ms);
+    EXPECT_THAT(inputReads(desk.alder()), SizeIs(1));
+    EXPECT_THAT(desk.written(), IsEmpty());
+    EXPECT_TRUE(desk.isShown());
+    EXPECT_EQ(desk.manager().lastError(), onlyDisplay);
+}
+
+TEST(DisplayManagerDisableOutput, AMomentAfterTheLidWasClosedIsRefused) {
+    Desk desk(deskOf({panelPlan(), monitorPlan(2, "Alder")}));
+    desk.rig.world().closeLid();
+    desk.turnOff();
+    EXPECT_TRUE(desk.isShown());
+    EXPECT_EQ(desk.manager().lastError(), onlyDisplay);
+}
+
+TEST(DisplayManagerDisableOutput, AMomentAfterTheOtherMonitorWasUnpluggedIsRefused) {
+    Desk desk(deskOf({monitorPlan(2, "Alder"), monitorPlan(3, "Birch")}));
+    desk.rig.world().unplug(3);
+    desk.turnOff();
+    EXPECT_TRUE(desk.isShown());
+    EXPECT_EQ(desk.manager().lastError(), onlyDisplay);
+}
+
+TEST(DisplayManagerDisableOutput, WithAnUnreadableOnlineListIsRefused) {
+    Desk desk;
+    desk.rig.displays.onlineInstead.emplace();
+    desk.turnOff();
+    EXPECT_TRUE(desk.isShown());
+    EXPECT_EQ(desk.manager().lastError(), onlyDisplay);
+}
+
+TEST(DisplayManagerDisableOutput, TurnsNoOtherMonitorOffThatHasItsIdentifierByThen) {
+    Desk desk;
+    desk.manager().start(desk.manager().disableOutput(desk.rig.display(2), otherInput));
+    desk.rig.runFor(200ms);
+    desk.rig.displays.serialInstead[2] = 999;
+    desk.rig.runFor(1s);
+    EXPECT_TRUE(desk.isShown());
+    EXPECT_THAT(desk.manager().disabled(), IsEmpty());
+    EXPECT_EQ(desk.manager().lastError(), std::nullopt);
+}
+
+// It is off by then, and the panel is the only display with a picture.
+TEST(DisplayManagerDisableOutput, TwiceAtTheSameTimeBesideThePanelIsNoMistake) {
+    Desk desk(deskOf({panelPlan(), monitorPlan(2, "Alder")}));
+    desk.manager().start(desk.manager().disableOutput(desk.rig.display(2), otherInput));
+    desk.rig.runFor(100ms);
+    desk.turnOff(otherInput);
+    desk.rig.runFor(1s);
+    EXPECT_EQ(desk.manager().lastError(), std::nullopt);
+    EXPECT_THAT(desk.manager().disabled(), ElementsAre(alderEntry));
+    EXPECT_THAT(desk.rig.offlineIDs(), ElementsAre(2U));
 }
 
 // The input of this computer

@@ -139,6 +139,9 @@ void Invariants::checkRefresh() {
     verdict_.unless(offline == off, "offline does not mirror disabled after a refresh");
     if (!off.empty()) counts_.note(Seen::outputOffAtRefresh);
     if (online.empty() && !off.empty()) counts_.note(Seen::everythingDark);
+    // The refresh of a turn-off that the system accepted.
+    const bool hasJustTurnedOff = lastLine_.starts_with("Turning Mac output off for ");
+    verdict_.unless(!hasJustTurnedOff || !online.empty(), "the last picture was turned off");
 
     noteDropouts(online);
     notePruned(online);

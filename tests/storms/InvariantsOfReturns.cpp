@@ -16,7 +16,6 @@ constexpr int attempts = 4;
 constexpr auto shortestWait = 20s;
 constexpr auto shortestWaitWithPulse = 28s;
 constexpr auto settlingTime = 2s;
-constexpr auto longestReading = 300ms;
 // With readings that wait for a busy queue.
 constexpr auto longestWait = 38s + 80s;
 
@@ -102,22 +101,13 @@ void Invariants::attemptFailed(WatchedModel& model, int attempt) {
                     model.name + " was not given its time to switch, or too much of it");
 }
 
-// A return that is superseded while it waits for the last of its readings still
-// ends as settled and dismisses the last error: the monitor does show the
-// computer. It leaves the spinner alone, and says nothing new.
+// Only the current return settles: one that was superseded during its last reading
+// must not, neither without a spinner nor in the beginning of the next return.
 void Invariants::settled(WatchedModel& model) {
-    // Three readings and the pauses between them, unless it is an older return
-    // that settles in the beginning of this one.
-    const auto waited = scheduler_.now() - model.attemptBegan;
-    const bool isOlder = model.attempt <= 1 && waited < longestReading;
-    if (model.isSpinning) {
-        verdict_.unless(isOlder || waited >= settlingTime, model.name + " settled without three readings");
-        return;
-    }
-    counts_.note(Seen::settledThoughSuperseded);
-    const auto living = model.model.lock();
-    verdict_.unless(living && living->inputRequest() != model.owner,
-                    "the spinner of " + model.name + " went out before its return had ended");
+    verdict_.unless(model.isSpinning, "a superseded return of " + model.name + " settled");
+    // Three readings and the pauses between them.
+    const bool hasWaited = model.attempt >= 1 && scheduler_.now() - model.attemptBegan >= settlingTime;
+    verdict_.unless(hasWaited, model.name + " settled without three readings");
 }
 
 void Invariants::spinnerChanged(WatchedModel& model) {

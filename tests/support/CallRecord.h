@@ -37,6 +37,15 @@ class CallRecord {
         }
         return result;
     }
+    // Of the calls that are directly followed by one that begins with `next`.
+    std::vector<runtime::MonotonicTime> momentsBefore(std::string_view call, std::string_view next) const {
+        std::vector<runtime::MonotonicTime> result;
+        for (std::size_t index = 0; index + 1 < calls_.size(); ++index) {
+            if (calls_[index] == call && calls_[index + 1].starts_with(next))
+                result.push_back(moments_[index]);
+        }
+        return result;
+    }
 
   private:
     const runtime::Clock& clock_;

@@ -85,8 +85,11 @@ class ManagerRig {
         for (const auto& [id, model] : manager->offline()) result.push_back(id);
         return result;
     }
-    // The moments at which refreshes looked at the online list.
-    std::vector<runtime::MonotonicTime> refreshes() const { return calls.moments("online displays"); }
+    // The moments at which refreshes looked at the online list: each goes on to save
+    // who is turned off.
+    std::vector<runtime::MonotonicTime> refreshes() const {
+        return calls.momentsBefore("online displays", "disabledDisplays = ");
+    }
     std::vector<persistence::DisabledDisplay> stored() {
         return persistence::Store::disabledDisplays(defaults);
     }
