@@ -174,6 +174,33 @@ void sliderBesideAHangingMonitor(benchmark::State& state) {
 }
 BENCHMARK(sliderBesideAHangingMonitor)->Iterations(1)->UseRealTime()->Unit(benchmark::kMillisecond);
 
+// Each monitor leaves for its other input, without a picture from the computer but
+// for the last one, and is brought back.
+void switchesOfEight(benchmark::State& state) {
+    constexpr std::uint16_t ours = 0x0F;
+    constexpr std::uint16_t other = 0x11;
+    simulated::Desk desk = deskOf(8);
+    for (auto& display : desk.displays) {
+        display.monitor->inputs =
+            simulated::InputPlan{.computer = ours, .shown = ours, .available = {ours, other}};
+        display.monitor->capabilities = "(vcp(10 60(0F 11)))";
+    }
+    Rig rig(std::move(desk));
+    rig.start();
+    rig.runUntilDone();
+    rig.longestPass = {};
+    for (auto _ : state) {
+        const auto displays = rig.manager->externals();
+        for (const auto& display : displays) rig.manager->start(rig.manager->selectInput(other, display));
+        rig.runUntilDone();
+        for (const auto& display : displays) rig.manager->start(rig.manager->selectInput(ours, display));
+        for (const auto& entry : rig.manager->disabled()) rig.manager->enableOutput(entry);
+        rig.runUntilDone();
+    }
+    state.counters["longest_pass_ms"] = rig.longestPass.count();
+}
+BENCHMARK(switchesOfEight)->Iterations(1)->UseRealTime()->Unit(benchmark::kMillisecond);
+
 void refreshOfSixteenMonitors(benchmark::State& state) {
     Rig rig(deskOf(16));
     rig.start();
