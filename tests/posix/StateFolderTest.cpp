@@ -12,6 +12,7 @@ TEST(StateFolder, IsBelowHomeUsually) {
     const Environment environment{"/people/ann", {}, {}};
     EXPECT_EQ(StateFolder::real(environment), "/people/ann/.config/vantrel");
     EXPECT_EQ(StateFolder::simulated(environment), "/people/ann/.local/state/vantrel/simulated");
+    EXPECT_EQ(StateFolder::autostart(environment), "/people/ann/.config/autostart");
 }
 
 TEST(StateFolder, IsWhereTheEnvironmentPutsIt) {

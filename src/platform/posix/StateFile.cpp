@@ -116,6 +116,11 @@ std::variant<OpenFile, std::error_code> StateFile::open(const std::string& path,
 std::variant<OpenFile, std::error_code> StateFile::makeTemporary() {
     auto opened = open(temporaryPath_, FileSystem::Open::newFile);
     const auto* error = std::get_if<std::error_code>(&opened);
+    if (error != nullptr && *error == std::errc::no_such_file_or_directory) {
+        if (const auto folderError = makeFolders(folder_)) return folderError;
+        opened = open(temporaryPath_, FileSystem::Open::newFile);
+        error = std::get_if<std::error_code>(&opened);
+    }
     if (error == nullptr || *error != std::errc::file_exists) return opened;
     if (const auto removal = fileSystem_.remove(temporaryPath_)) return removal;
     return open(temporaryPath_, FileSystem::Open::newFile);

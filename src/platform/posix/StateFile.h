@@ -49,8 +49,9 @@ class StateFile {
     // must not change under the reader.
     std::variant<OpenFile, Failure> lock();
 
-    // Both only under the lock. No text: it is kept. A failure: the file is as it was,
-    // or, when only the folder could not be synced, perhaps replaced.
+    // Both only under the lock, where others write the file too. No text: it is kept. A
+    // failure: the file is as it was, or, when only the folder could not be synced,
+    // perhaps replaced.
     std::variant<std::monostate, Failure> replace(const std::string& text);
     // Gives the first free name of "<path>.damaged-1" and so on, which it has then.
     std::variant<std::string, Failure> moveAside();

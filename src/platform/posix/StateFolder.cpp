@@ -35,4 +35,8 @@ std::optional<std::string> simulated(const Environment& environment) {
     return below(environment.stateHome, environment.home, "/.local/state", "/vantrel/simulated");
 }
 
+std::optional<std::string> autostart(const Environment& environment) {
+    return below(environment.configHome, environment.home, "/.config", "/autostart");
+}
+
 }  // namespace vantrel::posix::StateFolder

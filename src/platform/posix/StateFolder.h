@@ -22,5 +22,7 @@ Environment environment();
 std::optional<std::string> real(const Environment& environment);
 // State of simulated desks, apart from those.
 std::optional<std::string> simulated(const Environment& environment);
+// What the desktop starts when the user logs in.
+std::optional<std::string> autostart(const Environment& environment);
 
 }  // namespace vantrel::posix::StateFolder
