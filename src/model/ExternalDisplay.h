@@ -99,6 +99,8 @@ class ExternalDisplay {
 
     std::vector<Input> inputs() const;
     std::vector<Input> visibleInputs() const;
+    // What there is without the user's own list.
+    std::vector<Input> detectedInputs() const;
     // The user's name for it, else the standard's.
     std::string inputName(Input input) const;
     // Both turn the list into the user's own.
@@ -122,7 +124,6 @@ class ExternalDisplay {
     void finishLoading(LoadState state);
     void updateDimmer() { dimmer_.setActive(usesSoftwareControls()); }
 
-    std::vector<Input> detectedInputs() const;
     std::optional<Input> normalizedInput(std::uint16_t rawReading) const;
     // Normalises, logs and notes a raw reading.
     std::optional<Input> noteInput(std::uint16_t rawReading);

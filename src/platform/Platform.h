@@ -10,6 +10,7 @@
 #include "platform/DisplayServices.h"
 #include "platform/Localizer.h"
 #include "platform/Log.h"
+#include "platform/LoginItem.h"
 #include "platform/PrivateFunctions.h"
 #include "platform/Registry.h"
 #include "platform/Workspace.h"
@@ -28,6 +29,7 @@ struct Platform {
     Defaults& defaults;
     Workspace& workspace;
     Localizer& localizer;
+    LoginItem& loginItem;
     Log log;
 };
 

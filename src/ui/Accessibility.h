@@ -7,10 +7,10 @@
 namespace vantrel::ui {
 
 struct Accessibility {
-    std::string name;
+    std::string name = {};
     // For a control whose value isn't a text of its own: "42%".
-    std::string value;
-    std::string description;
+    std::string value = {};
+    std::string description = {};
 
     bool operator==(const Accessibility&) const = default;
 };

@@ -50,7 +50,7 @@ struct Scroll {
 
 // A title that a press opens and closes; the children are there while it is open.
 struct Disclosure {
-    std::string title;
+    std::string title = {};
     bool isOpen = false;
 
     bool operator==(const Disclosure&) const = default;
@@ -63,7 +63,7 @@ struct Form {
 
 // A titled group of rows in a Form.
 struct Section {
-    std::string title;
+    std::string title = {};
 
     bool operator==(const Section&) const = default;
 };
@@ -71,7 +71,7 @@ struct Section {
 // Leaves.
 
 struct Text {
-    std::string text;
+    std::string text = {};
     Font font = Font::body;
     Tone tone = Tone::primary;
     // Over as many lines as it needs; otherwise cut at the end of the line.
@@ -82,7 +82,7 @@ struct Text {
 };
 
 struct Image {
-    Symbol symbol;
+    Symbol symbol = {};
     Font font = Font::body;
     Tone tone = Tone::primary;
 
@@ -106,8 +106,8 @@ struct Button {
     enum class Style { bordered, prominent, borderless };
 
     // One of both may be empty.
-    std::string title;
-    Symbol symbol;
+    std::string title = {};
+    Symbol symbol = {};
     Style style = Style::bordered;
     Font font = Font::body;
 
@@ -116,12 +116,12 @@ struct Button {
 
 // A button with a picture that may be the chosen one of several.
 struct Tile {
-    std::string title;
-    Symbol symbol;
+    std::string title = {};
+    Symbol symbol = {};
     bool isSelected = false;
     // A small picture beside the title; empty for none.
-    Symbol badge;
-    std::string badgeHelp;
+    Symbol badge = {};
+    std::string badgeHelp = {};
     int padding = 0;
     int cornerRadius = 0;
 
@@ -130,7 +130,7 @@ struct Tile {
 
 struct Switch {
     // Empty: no visible label.
-    std::string title;
+    std::string title = {};
     bool isOn = false;
 
     bool operator==(const Switch&) const = default;
@@ -150,28 +150,28 @@ struct Slider {
 // One of several options. With a symbol it is a compact menu under that picture.
 struct Picker {
     // Empty: no visible label.
-    std::string title;
-    Symbol symbol;
-    std::vector<std::string> options;
+    std::string title = {};
+    Symbol symbol = {};
+    std::vector<std::string> options = {};
     // Nothing: none is shown as chosen.
-    std::optional<std::size_t> selected;
+    std::optional<std::size_t> selected = {};
     // Explains the chosen option, in the menu.
-    std::string note;
+    std::string note = {};
 
     bool operator==(const Picker&) const = default;
 };
 
 // A button that offers things to do.
 struct Menu {
-    std::string title;
-    std::vector<std::string> options;
+    std::string title = {};
+    std::vector<std::string> options = {};
 
     bool operator==(const Menu&) const = default;
 };
 
 struct TextField {
-    std::string text;
-    std::string placeholder;
+    std::string text = {};
+    std::string placeholder = {};
 
     bool operator==(const TextField&) const = default;
 };

@@ -40,6 +40,15 @@ std::vector<std::string> identitiesOf(const std::vector<Node>& nodes) {
     return identities;
 }
 
+bool movesItsControl(const Event& event) {
+    return std::visit(
+        []<class E>(const E&) {
+            return std::is_same_v<E, Toggled> || std::is_same_v<E, Slid> || std::is_same_v<E, Chosen> ||
+                   std::is_same_v<E, Edited>;
+        },
+        event);
+}
+
 }  // namespace
 
 Host::Host(runtime::MainLoop& loop, Component& root, Renderer& renderer)
@@ -69,6 +78,7 @@ void Host::build() {
                          "a view's topmost node has become another kind of thing");
         update(*shown_, std::move(tree));
     }
+    touched_.clear();
     renderer_.finish();
 }
 
@@ -89,7 +99,7 @@ void Host::update(Shown& shown, Node node) {
     const bool isEqual = node == shown.node;
     // Even an equal node brings handlers that know more.
     shown.node = std::move(node);
-    if (!isEqual) renderer_.update(shown.element, shown.node);
+    if (!isEqual || touched_.contains(shown.element)) renderer_.update(shown.element, shown.node);
     updateChildren(shown, std::move(children));
 }
 
@@ -133,6 +143,9 @@ void Host::deliver(ElementID element, const Event& event) {
     // The handler may replace the tree that it is part of.
     const auto handler = shown->node.handler;
     if (handler.function) handler.function(event);
+    if (!movesItsControl(event)) return;
+    touched_.insert(element);
+    changed();
 }
 
 Node Host::tree() const {

@@ -3,13 +3,16 @@
 // loop, and tells the renderer the differences.
 //
 // Order: an event goes to the handler of the newest tree; for a node that is gone
-// it is dropped.
+// it is dropped. A control that a person has moved is told to the renderer again
+// when its handlers have run, also when its node says what it said before: what was
+// not accepted goes back.
 // Threads: main thread. Lifetime: loop, component and renderer outlive the host;
 // when it goes, the renderer keeps showing the last tree.
 #pragma once
 
 #include <memory>
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "runtime/MainLoop.h"
@@ -49,6 +52,8 @@ class Host {
     Renderer& renderer_;
     runtime::Observer observer_;
     std::unique_ptr<Shown> shown_;
+    // What a person has moved since the last tree.
+    std::set<ElementID> touched_;
     ElementID lastElement_ = noElement;
     std::optional<runtime::MainLoop::TimerID> pending_;
     std::size_t builds_ = 0;

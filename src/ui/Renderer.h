@@ -28,7 +28,8 @@ class Renderer {
     // A new node among its parent's, which move up to make room. Its own children
     // follow one by one; `node.children` is not looked at, here and below.
     virtual void insert(ElementID parent, std::size_t position, ElementID element, const Node& node) = 0;
-    // The same control with other properties.
+    // The same control with other properties; or with the same ones, when a person
+    // has moved it and it has to show again what the node says.
     virtual void update(ElementID element, const Node& node) = 0;
     // Its parent's children are in the order that they had, but for this one.
     virtual void move(ElementID parent, std::size_t position, ElementID element) = 0;

@@ -37,7 +37,9 @@ class ManagerRig {
     using Duration = runtime::MonotonicClock::duration;
     using Display = std::shared_ptr<model::ExternalDisplay>;
 
-    explicit ManagerRig(simulated::Desk desk = usualDesk()) : simulated(std::move(desk), time, loop) {}
+    // The desk's user reads what `localizer` makes of a text, or else English.
+    explicit ManagerRig(simulated::Desk desk = usualDesk(), platform::Localizer* localizer = nullptr)
+        : simulated(std::move(desk), time, loop), shownBy(localizer ? *localizer : real.localizer) {}
     ~ManagerRig() {
         manager.reset();
         time.finishThreads();
@@ -104,8 +106,10 @@ class ManagerRig {
     WatchedDisplays displays{real.displays, calls};
     WatchedRegistry registry{real.registry, calls};
     WatchedWorkspace workspace{real.workspace, calls};
-    platform::Platform watched{real.scheduler,  real.mainLoop, displays,  registry,       real.functions,
-                               real.baseTables, defaults,      workspace, real.localizer, real.log};
+    platform::Localizer& shownBy;
+    platform::Platform watched{real.scheduler, real.mainLoop,   displays, registry,
+                               real.functions, real.baseTables, defaults, workspace,
+                               shownBy,        real.loginItem,  real.log};
     std::unique_ptr<model::DisplayManager> manager;
 };
 

@@ -12,6 +12,9 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
+#include <string>
+#include <utility>
 
 #include "platform/MemoryDefaults.h"
 #include "platform/Platform.h"
@@ -20,6 +23,7 @@
 #include "platform/simulated/EnglishLocalizer.h"
 #include "platform/simulated/SimulatedDisplayServices.h"
 #include "platform/simulated/SimulatedLibraries.h"
+#include "platform/simulated/SimulatedLoginItem.h"
 #include "platform/simulated/SimulatedRegistry.h"
 #include "platform/simulated/SimulatedWorkspace.h"
 #include "platform/simulated/World.h"
@@ -42,6 +46,8 @@ class SimulatedPlatform {
     SimulatedMonitor& monitor(platform::DisplayID display);
     // The step of every display configuration that fails from now on.
     void refuse(Refusal refusal) { displays_.refuse(refusal); }
+    // The system's reason to change no login item from now on; nothing: it does.
+    void refuseLoginItem(std::optional<std::string> reason) { loginItem_.refuse(std::move(reason)); }
 
     // What the program has taken and not given back.
     std::size_t liveServices() const { return services_.live(); }
@@ -60,6 +66,7 @@ class SimulatedPlatform {
     platform::MemoryDefaults memoryDefaults_;
     SimulatedWorkspace workspace_;
     EnglishLocalizer localizer_;
+    SimulatedLoginItem loginItem_;
 };
 
 }  // namespace vantrel::simulated
