@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "ui/PopoverMode.h"
 #include "ui/Size.h"
 #include "ui/View.h"
 
@@ -18,6 +19,8 @@ class Popover {
     // At the status item, with keyboard input for its contents.
     virtual void show() = 0;
     virtual void close() = 0;
+    // Closes it first. A panel, until told.
+    virtual void setMode(PopoverMode mode) = 0;
     // After each closing, whoever asked for it.
     virtual void onClose(std::function<void()> action) = 0;
     // Follows nothing by itself.

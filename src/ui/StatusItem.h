@@ -16,6 +16,9 @@ class StatusItem {
 
     // Whether it has something to click on: without one the rest does nothing.
     virtual bool hasButton() const = 0;
+    // Whether the desktop shows it at present. Some show it only after a while, some
+    // never.
+    virtual bool isHosted() const = 0;
     // A template: only its opacity matters, the system gives it its colour.
     virtual void setImage(const Drawing& image) = 0;
     virtual void setToolTip(const std::string& text) = 0;

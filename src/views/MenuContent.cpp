@@ -37,6 +37,9 @@ MenuContent::MenuContent(const Environment& environment, Surroundings surroundin
 
 Node MenuContent::body() {
     std::vector<Node> parts{title()};
+    if (const auto note = surroundings_.note(); !note.empty()) {
+        parts.push_back(ui::wrappedText(note, Font::caption, Tone::secondary).fillWidth().key("note"));
+    }
     if (const auto& text = environment_.manager.lastError()) parts.push_back(error(*text));
     parts.push_back(Node{.element = ui::Scroll{.maximumHeight = maximumHeight()}, .children = {cards()}});
     parts.push_back(ui::divider());

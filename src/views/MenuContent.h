@@ -26,6 +26,8 @@ class MenuContent : public ui::Component {
         std::function<double()> screenHeight;
         // Told each new laid-out size.
         std::function<void(ui::Size)> sizeChanged;
+        // What else the user should know; empty for nothing.
+        std::function<std::string()> note = [] { return std::string(); };
         // Empty for a program without an icon.
         ui::Symbol icon = ui::applicationIcon;
     };
