@@ -145,7 +145,11 @@ void StatusItemController::popoverDidClose() {
         toolkit_.terminate();
         return;
     }
-    popover_->setMode(ui::PopoverMode::panel);
+    // Not inside its closing.
+    hostTimer_ = platform_.mainLoop.post([this] {
+        hostTimer_.reset();
+        popover_->setMode(ui::PopoverMode::panel);
+    });
 }
 
 void StatusItemController::watchForAHost() {

@@ -1,0 +1,116 @@
+#include "ui/qt/DisclosureItem.h"
+
+#include <algorithm>
+
+#include "ui/qt/Look.h"
+#include "ui/qt/PaintedButton.h"
+#include "ui/qt/TextLines.h"
+
+namespace vantrel::qt {
+namespace {
+
+class TitleButton : public PaintedButton {
+  public:
+    explicit TitleButton(QWidget* parent) : PaintedButton(parent, QAccessible::Button) {}
+
+    void addState(QAccessible::State& state) const override {
+        state.expandable = true;
+        state.expanded = isOpen_;
+        state.collapsed = !isOpen_;
+    }
+    QString spokenText() const override { return title_.text(); }
+
+    void show(const ui::Disclosure& disclosure) {
+        isOpen_ = disclosure.isOpen;
+        title_ = TextLines(QString::fromStdString(disclosure.title), Look::current().font(ui::Font::body),
+                           TextLines::Wrapping::none);
+        update();
+    }
+
+    int naturalWidth() const { return indent() + title_.naturalWidth() + Look::current().pixels(4); }
+    int naturalHeight() const {
+        return std::max(Look::current().pixels(metrics::controlHeight), title_.height(0) + 4);
+    }
+
+  protected:
+    void paint(QPainter& painter) override {
+        const Look& look = Look::current();
+        paintRounded(painter, rect(), cornerRadius(), borderlessFill());
+        const int side = look.pixels(metrics::chevronSide);
+        paintChevron(painter, QRectF(look.pixels(3), (height() - side) / 2.0, side, side),
+                     isOpen_ ? Chevron::down : Chevron::right, look.secondaryText);
+        title_.paint(painter, {indent(), 0, width() - indent(), height()}, Qt::AlignLeft, look.text);
+    }
+
+  private:
+    static int indent() {
+        const Look& look = Look::current();
+        return look.pixels(3) + look.pixels(metrics::chevronSide) + look.pixels(metrics::symbolGap);
+    }
+
+    bool isOpen_ = false;
+    TextLines title_;
+};
+
+class Body : public QWidget, public Spoken {
+  public:
+    explicit Body(QWidget* parent)
+        : QWidget(parent), Spoken(QAccessible::Grouping), title(new TitleButton(this)) {}
+
+    TitleButton* title;
+};
+
+Body& bodyOf(const Item& item) { return *static_cast<Body*>(item.widget()); }
+
+}  // namespace
+
+DisclosureItem::DisclosureItem(Stage& stage, ui::ElementID element, QWidget* parent)
+    : Item(stage, element, new Body(parent)) {
+    widget()->setFocusProxy(bodyOf(*this).title);
+    QObject::connect(bodyOf(*this).title, &QAbstractButton::clicked, widget(),
+                     [this] { send(ui::Toggled{!std::get<ui::Disclosure>(node().element).isOpen}); });
+}
+
+void DisclosureItem::apply(const ui::Node& node) {
+    TitleButton& title = *bodyOf(*this).title;
+    // The button is what is operated; the group around it has no name to repeat.
+    title.setAccessibleName(widget()->accessibleName());
+    title.setAccessibleDescription(widget()->accessibleDescription());
+    widget()->setAccessibleName({});
+    widget()->setAccessibleDescription({});
+    title.show(std::get<ui::Disclosure>(node.element));
+}
+
+WidthRange DisclosureItem::contentWidths() const {
+    WidthRange widest{0, bodyOf(*this).title->naturalWidth()};
+    for (const auto& child : children()) {
+        const WidthRange range = child->widths();
+        widest = {std::max(widest.minimum, range.minimum), std::max(widest.natural, range.natural)};
+    }
+    return widest;
+}
+
+int DisclosureItem::contentHeight(int width) const {
+    int height = bodyOf(*this).title->naturalHeight();
+    for (const auto& child : children()) {
+        height += Look::current().pixels(metrics::disclosureSpacing);
+        height += child->height(child->expands() ? width : std::min(width, child->widths().natural));
+    }
+    return height;
+}
+
+void DisclosureItem::arrange(const QRect& inside) {
+    TitleButton& title = *bodyOf(*this).title;
+    title.setGeometry(inside.left(), inside.top(), inside.width(), title.naturalHeight());
+    int top = inside.top() + title.naturalHeight();
+    for (const auto& child : children()) {
+        top += Look::current().pixels(metrics::disclosureSpacing);
+        const int width =
+            child->expands() ? inside.width() : std::min(inside.width(), child->widths().natural);
+        const int height = child->height(width);
+        child->place({inside.left(), top, width, height});
+        top += height;
+    }
+}
+
+}  // namespace vantrel::qt

@@ -1,0 +1,32 @@
+// The strokes that more than one kind of control is drawn with.
+#pragma once
+
+#include <QPainter>
+#include <QRectF>
+#include <QWidget>
+
+namespace vantrel::qt {
+
+// Whether the keyboard is being used on a widget: a pointer needs no ring.
+class FocusRing {
+  public:
+    // From the widget's event().
+    void follow(QWidget& widget, const QEvent& event);
+    bool isShown() const { return isShown_; }
+
+  private:
+    bool isShown_ = false;
+};
+
+void paintRounded(QPainter& painter, const QRectF& rectangle, double radius, const QColor& fill,
+                  const QColor& border = Qt::transparent);
+// Around what is inside `rectangle`, within the widget.
+void paintFocusRing(QPainter& painter, const QRectF& rectangle, double radius);
+
+enum class Chevron { down, right, upAndDown };
+void paintChevron(QPainter& painter, const QRectF& square, Chevron chevron, const QColor& color);
+
+// What is switched off is drawn as faintly.
+inline constexpr double disabledOpacity = 0.45;
+
+}  // namespace vantrel::qt

@@ -1,0 +1,94 @@
+#include "ui/qt/ScrollView.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "ui/qt/Look.h"
+#include "ui/qt/Painting.h"
+
+namespace vantrel::qt {
+
+class ScrollView::Bar : public QWidget {
+  public:
+    Bar(ScrollView* view, QScrollBar* model) : QWidget(view), model_(model) {
+        setAttribute(Qt::WA_Hover);
+        QObject::connect(model, &QScrollBar::valueChanged, this, qOverload<>(&QWidget::update));
+        QObject::connect(model, &QScrollBar::rangeChanged, this,
+                         [this] { setVisible(model_->maximum() > 0); });
+        hide();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        QColor color = Look::current().text;
+        color.setAlphaF(underMouse() || isHeld_ ? 0.5F : 0.28F);
+        const QRectF handle(1, top(), width() - 2, length());
+        paintRounded(painter, handle, handle.width() / 2, color);
+    }
+
+    void mousePressEvent(QMouseEvent* event) override {
+        const int at = event->position().toPoint().y();
+        isHeld_ = true;
+        // Pressed beside the handle, the handle comes under the pointer.
+        hold_ = at >= top() && at <= top() + length() ? at - top() : length() / 2;
+        drag(at);
+    }
+    void mouseMoveEvent(QMouseEvent* event) override {
+        if (isHeld_) drag(event->position().toPoint().y());
+    }
+    void mouseReleaseEvent(QMouseEvent*) override {
+        isHeld_ = false;
+        update();
+    }
+
+  private:
+    int length() const {
+        const int all = model_->maximum() + model_->pageStep();
+        return std::clamp(height() * model_->pageStep() / std::max(1, all), std::min(24, height()), height());
+    }
+    int top() const { return (height() - length()) * model_->value() / std::max(1, model_->maximum()); }
+    void drag(int at) {
+        const int way = std::max(1, height() - length());
+        model_->setValue((at - hold_) * model_->maximum() / way);
+    }
+
+    QScrollBar* model_;
+    bool isHeld_ = false;
+    int hold_ = 0;
+};
+
+ScrollView::ScrollView(QWidget* parent) : QScrollArea(parent) {
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    auto* const contents = new QWidget;
+    setWidget(contents);
+    // They lie on whatever the view lies on.
+    viewport()->setAutoFillBackground(false);
+    contents->setAutoFillBackground(false);
+    verticalScrollBar()->setSingleStep(16);
+    bar_ = new Bar(this, verticalScrollBar());
+}
+
+void ScrollView::setContentSize(const QSize& size) {
+    widget()->resize(size);
+    placeBar();
+}
+
+void ScrollView::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    placeBar();
+}
+
+void ScrollView::placeBar() {
+    const int thickness = Look::current().pixels(metrics::scrollBarWidth);
+    bar_->setGeometry(width() - thickness - 1, 3, thickness, std::max(0, height() - 6));
+    bar_->setVisible(verticalScrollBar()->maximum() > 0);
+    bar_->raise();
+}
+
+}  // namespace vantrel::qt

@@ -1,0 +1,56 @@
+#include "ui/qt/TextItem.h"
+
+#include "ui/qt/Look.h"
+#include "ui/qt/Painting.h"
+#include "ui/qt/Spoken.h"
+
+namespace vantrel::qt {
+namespace {
+
+class Label : public QWidget, public Spoken {
+  public:
+    explicit Label(QWidget* parent) : QWidget(parent), Spoken(QAccessible::StaticText) {}
+
+    QString spokenText() const override { return lines.text(); }
+
+    TextLines lines;
+    ui::Tone tone = ui::Tone::primary;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        if (!isEnabled()) painter.setOpacity(disabledOpacity);
+        lines.paint(painter, rect(), Qt::AlignLeft, Look::current().tone(tone));
+    }
+};
+
+Label& labelOf(const Item& item) { return *static_cast<Label*>(item.widget()); }
+
+}  // namespace
+
+TextItem::TextItem(Stage& stage, ui::ElementID element, QWidget* parent)
+    : Item(stage, element, new Label(parent)) {}
+
+void TextItem::apply(const ui::Node& node) {
+    const auto& text = std::get<ui::Text>(node.element);
+    Label& label = labelOf(*this);
+    label.lines = TextLines(QString::fromStdString(text.text), Look::current().font(text.font),
+                            text.wraps ? TextLines::Wrapping::wraps : TextLines::Wrapping::none);
+    label.tone = text.tone;
+    label.update();
+}
+
+WidthRange TextItem::contentWidths() const {
+    const TextLines& lines = labelOf(*this).lines;
+    return {lines.minimumWidth(), lines.naturalWidth()};
+}
+
+int TextItem::contentHeight(int width) const { return labelOf(*this).lines.height(width); }
+
+void TextItem::arrange(const QRect& inside) {
+    const TextLines& lines = labelOf(*this).lines;
+    const bool needsWhole = node().help.empty() && lines.isCut(inside.width());
+    setToolTip(needsWhole ? lines.text().toStdString() : node().help);
+}
+
+}  // namespace vantrel::qt
