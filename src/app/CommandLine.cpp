@@ -49,6 +49,17 @@ std::optional<CommandLine::Mistake> wrongCombination(const CommandLine& line) {
         return CommandLine::Mistake{
             oneLine("--virtual-time needs --simulate: real monitors answer in real time")};
     }
+    const bool isInterface = !line.play && !line.probe && !line.parseCapabilities;
+    if (line.virtualTime && isInterface && !line.screenshot) {
+        return CommandLine::Mistake{
+            oneLine("--virtual-time is for --probe and --play: people live in real time")};
+    }
+    if (line.screenshot && line.screenshot->empty())
+        return CommandLine::Mistake{oneLine("--screenshot: no folder is given")};
+    if (line.screenshot && !isInterface) {
+        return CommandLine::Mistake{
+            oneLine("--screenshot draws the interface: not with --probe, --play or --parse-capabilities")};
+    }
     if (line.state && line.state->empty())
         return CommandLine::Mistake{oneLine("--state: no folder is given")};
     if (line.state && !line.simulate && !line.play) {
@@ -65,6 +76,7 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
     CommandLine line;
     std::string simulate;
     std::string play;
+    std::string screenshot;
     std::string state;
     std::string log;
     std::string parseCapabilities;
@@ -89,6 +101,11 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
                         "Play what happens on a simulated desk and print it: a story file or the name of a "
                         "story below, which has a desk of its own; --simulate names another")
             ->type_name("STORY");
+    const CLI::Option* screenshotOption =
+        parser
+            .add_option("--screenshot", screenshot,
+                        "Draw the interface on simulated desks into PNG files in the folder DIR, and exit")
+            ->type_name("DIR");
     const CLI::Option* stateOption =
         parser
             .add_option("--state", state,
@@ -123,6 +140,7 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
 
     if (simulateOption->count() > 0) line.simulate = simulate;
     if (playOption->count() > 0) line.play = play;
+    if (screenshotOption->count() > 0) line.screenshot = screenshot;
     if (stateOption->count() > 0) line.state = state;
     if (parseOption->count() > 0) line.parseCapabilities = parseCapabilities;
     if (logOption->count() > 0) {

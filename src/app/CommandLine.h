@@ -20,6 +20,8 @@ struct CommandLine {
     bool virtualTime = false;
     // A story to play on a simulated desk: a story file or the name of a shipped one.
     std::optional<std::string> play;
+    // Draws the interface on simulated desks into pictures in this folder.
+    std::optional<std::string> screenshot;
     // The folder of what the program remembers about a simulated desk.
     std::optional<std::string> state;
     // Log lines at this level and above go to standard error, or among what a story

@@ -11,6 +11,7 @@
 #include "app/CommandLine.h"
 #include "app/ConsoleLog.h"
 #include "app/ExitStatus.h"
+#include "app/Interface.h"
 #include "app/NoLog.h"
 #include "app/ShippedStories.h"
 #include "app/StoryCheck.h"
@@ -99,9 +100,18 @@ int VantrelApp::run(const CommandLine& line) {
     if (line.probe) return runProbe(line);
     if (line.play) return runStory(line);
     if (line.parseCapabilities) return parseCapabilities(*line.parseCapabilities);
-    return fail(
-        "there is no interface yet; --probe prints what the monitors answer, with --simulate those of a "
-        "simulated desk (see --help)");
+    if (line.screenshot) return Interface::draw(line, output_, errors_);
+    return runInterface(line);
+}
+
+int VantrelApp::runInterface(const CommandLine& line) {
+    if (!line.simulate) {
+        return fail(
+            "this build can't reach real monitors yet; use --simulate for a simulated desk (see --help)");
+    }
+    auto desk = findDesk(deskName(line));
+    if (const auto* mistake = std::get_if<std::string>(&desk)) return fail(*mistake);
+    return Interface::run(line, std::get<simulated::Desk>(std::move(desk)), errors_);
 }
 
 int VantrelApp::runProbe(const CommandLine& line) {

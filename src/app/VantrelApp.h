@@ -22,6 +22,7 @@ class VantrelApp {
 
   private:
     int run(const CommandLine& line);
+    int runInterface(const CommandLine& line);
     int runProbe(const CommandLine& line);
     int runStory(const CommandLine& line);
     int parseCapabilities(const std::string& path);

@@ -148,6 +148,17 @@ void Host::deliver(ElementID element, const Event& event) {
     changed();
 }
 
+std::optional<ElementID> Host::find(const std::function<bool(const Node&)>& holds) const {
+    const auto search = [&holds](const auto& self, const Shown& shown) -> std::optional<ElementID> {
+        if (holds(shown.node)) return shown.element;
+        for (const auto& child : shown.children) {
+            if (const auto found = self(self, *child)) return found;
+        }
+        return std::nullopt;
+    };
+    return search(search, *shown_);
+}
+
 Node Host::tree() const {
     const auto whole = [](const auto& self, const Shown& shown) -> Node {
         Node node = shown.node;

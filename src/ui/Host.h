@@ -10,6 +10,7 @@
 // when it goes, the renderer keeps showing the last tree.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -32,6 +33,9 @@ class Host {
 
     void deliver(ElementID element, const Event& event);
 
+    // The first node from the top that holds, as those who operate it from outside
+    // need it.
+    std::optional<ElementID> find(const std::function<bool(const Node&)>& holds) const;
     // The tree as it is shown.
     Node tree() const;
     // How often the tree was made.

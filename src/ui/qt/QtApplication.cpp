@@ -75,4 +75,6 @@ bool QtApplication::hasDesktop() {
            !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
+void QtApplication::useNoDesktop() { qputenv("QT_QPA_PLATFORM", "offscreen"); }
+
 }  // namespace vantrel::qt

@@ -18,6 +18,8 @@ class QtApplication {
     // Whether there is a desktop to show something on; without one, Qt would stop
     // the program.
     static bool hasDesktop();
+    // Before the application is made: for drawing into files.
+    static void useNoDesktop();
 
   private:
     struct Parts;
