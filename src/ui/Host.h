@@ -38,6 +38,8 @@ class Host {
     std::optional<ElementID> find(const std::function<bool(const Node&)>& holds) const;
     // The tree as it is shown.
     Node tree() const;
+    // Whether nothing has changed since it was made.
+    bool isUpToDate() const { return !pending_; }
     // How often the tree was made.
     std::size_t builds() const { return builds_; }
 

@@ -106,6 +106,7 @@ enum class Seen : std::size_t {
     settingsShared,
     staleSettings,
     everythingDark,
+    screenCompared,
     // What the end had to clear up and found in order.
     valueVerified,
     inputVerified,
@@ -208,6 +209,7 @@ inline constexpr std::array<std::string_view, static_cast<std::size_t>(Seen::cou
     "state: several models share settings",
     "state: a model shows settings of before",
     "state: no display shows a picture",
+    "state: the screen is what the views say",
     "end: values verified in the monitor",
     "end: inputs verified in the monitor",
     "end: return to the computer verified",

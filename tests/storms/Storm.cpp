@@ -11,6 +11,7 @@ namespace {
 // Streams of a storm's randomness.
 constexpr std::uint64_t deskStream = 0;
 constexpr std::uint64_t stepStream = 1;
+constexpr std::uint64_t screenStream = 2;
 
 constexpr std::uint64_t fewestSteps = 30;
 constexpr std::uint64_t mostSteps = 150;
@@ -36,6 +37,7 @@ std::optional<std::string> Storm::run(std::uint64_t seed, Output output, Counts&
 Storm::Storm(std::uint64_t seed, Output output, Counts& counts)
     : counts_(counts),
       random_(simulated::Random(seed).fork(stepStream)),
+      looks_(simulated::Random(seed).fork(screenStream)),
       desk_(StormDesk::any(simulated::Random(seed).fork(deskStream), counts)),
       simulated_(desk_.desk, time_, loop_),
       system_(simulated_.platform(log_, defaults_)),
@@ -65,6 +67,7 @@ Storm::Storm(std::uint64_t seed, Output output, Counts& counts)
 }
 
 Storm::~Storm() {
+    screen_.reset();
     manager_.reset();
     time_.finishThreads();
 }
@@ -74,6 +77,7 @@ void Storm::rage() {
     for (std::uint64_t each = 0; each < steps && !verdict_.isBroken(); ++each) {
         step();
         afterEvent();
+        if (screen_) screen_->look(looks_);
         runFor(someGap());
         invariants_.checkStore();
     }

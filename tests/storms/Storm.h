@@ -21,6 +21,7 @@
 #include "storms/StormDesk.h"
 #include "storms/StormLog.h"
 #include "storms/StormScheduler.h"
+#include "storms/StormScreen.h"
 #include "storms/SystemIdentifiers.h"
 #include "storms/Verdict.h"
 #include "storms/Wire.h"
@@ -56,6 +57,7 @@ class Storm {
     void nextStep(const std::string& what);
     void runFor(runtime::MonotonicClock::duration duration);
     void afterEvent();
+    void checkScreen();
     simulated::Duration someGap();
     bool runUntilIdle();
     void checkWhatWasSent();
@@ -104,6 +106,7 @@ class Storm {
     Counts& counts_;
     Verdict verdict_;
     simulated::Random random_;
+    simulated::Random looks_;
     StormDesk desk_;
     simulated::VirtualTime time_;
     runtime::MainLoop loop_{time_};
@@ -119,6 +122,8 @@ class Storm {
     platform::Platform platform_;
     Invariants invariants_;
     std::unique_ptr<model::DisplayManager> manager_;
+    // Most programs of a storm have one.
+    std::unique_ptr<StormScreen> screen_;
 
     int step_ = 0;
     bool isCheckPosted_ = false;

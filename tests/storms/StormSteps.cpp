@@ -21,10 +21,12 @@ constexpr auto deferredWork = 15s;
 void Storm::startProgram() {
     manager_ = std::make_unique<model::DisplayManager>(platform_);
     invariants_.begin(*manager_);
+    if (looks_.chance(0.7)) screen_ = std::make_unique<StormScreen>(*manager_, platform_);
 }
 
 // Also the end of a process: the threads do what was asked of them before.
 void Storm::quitProgram() {
+    screen_.reset();
     invariants_.end();
     manager_.reset();
     scheduler_.finishThreads();
@@ -50,6 +52,11 @@ void Storm::nextStep(const std::string& what) {
 void Storm::runFor(runtime::MonotonicClock::duration duration) {
     loop_.runFor(duration);
     afterEvent();
+    checkScreen();
+}
+
+void Storm::checkScreen() {
+    if (screen_ && screen_->check(verdict_)) counts_.note(Seen::screenCompared);
 }
 
 void Storm::afterEvent() { invariants_.check(); }
