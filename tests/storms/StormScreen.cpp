@@ -20,7 +20,7 @@ views::Environment environmentOf(model::DisplayManager& manager, platform::Platf
 bool isHarmless(const ui::Node& node) {
     if (std::holds_alternative<ui::Disclosure>(node.element)) return true;
     const auto& name = node.accessibility.name;
-    return name == "Cancel" || name == "Run" || name == "Dismiss" || name.starts_with("Video output to ");
+    return name == "Cancel" || name == "Run" || name.starts_with("Video output to ");
 }
 
 ui::Event eventFor(const ui::Node& node) {
