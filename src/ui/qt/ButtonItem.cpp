@@ -47,7 +47,7 @@ class PushButton : public PaintedButton {
         const Look& look = Look::current();
         const bool isProminent = button_.style == ui::Button::Style::prominent;
         paintPlate(painter);
-        const QColor ink = isProminent ? look.onAccent : look.text;
+        const QColor ink = isProminent ? look.onPlate : look.text;
         if (isSymbolOnly()) {
             paintSymbol(painter, centered(look.symbolSide(button_.font)), button_.symbol, ink);
             return;
@@ -87,7 +87,7 @@ class PushButton : public PaintedButton {
                 paintRounded(painter, rect(), radius, fill(), look.controlBorder);
                 break;
             case ui::Button::Style::prominent:
-                paintRounded(painter, rect(), radius, look.accent);
+                paintRounded(painter, rect(), radius, look.plate);
                 if (isDown() || underMouse()) paintRounded(painter, rect(), radius, shade());
                 break;
             case ui::Button::Style::borderless:
@@ -97,7 +97,7 @@ class PushButton : public PaintedButton {
     }
     // Over the accent: towards what is written on it would make that hard to read.
     QColor shade() const {
-        QColor shade = Look::current().onAccent.lightnessF() > 0.5F ? Qt::black : Qt::white;
+        QColor shade = Look::current().onPlate.lightnessF() > 0.5F ? Qt::black : Qt::white;
         shade.setAlphaF(!isEnabled() ? 0.0F : isDown() ? 0.2F : 0.08F);
         return shade;
     }

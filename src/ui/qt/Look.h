@@ -31,8 +31,8 @@ class Look {
     // What lies behind everything, and the panel around what belongs together.
     QColor window, card, cardBorder, separator;
     QColor text, secondaryText, warningText;
-    // What is chosen, switched on or the thing to press, and what is written on it.
-    QColor accent, onAccent;
+    // What is on or done; what is written on, chosen or the thing to press; its ink.
+    QColor accent, plate, onPlate;
     QColor control, hoveredControl, pressedControl, controlBorder;
     QColor field, track, knob, knobBorder;
     QColor warningBackground;
