@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "ui/qt/FocusRing.h"
 #include "ui/qt/Look.h"
 #include "ui/qt/Painting.h"
 #include "ui/qt/Spoken.h"

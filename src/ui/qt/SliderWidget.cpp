@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "ui/qt/Look.h"
+#include "ui/qt/Painting.h"
 
 namespace vantrel::qt {
 namespace {
