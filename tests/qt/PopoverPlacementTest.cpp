@@ -10,7 +10,7 @@ const QRect screen(0, 0, 1920, 1080);
 
 TEST(PopoverPlacement, HangsBelowAnIconInAPanelAtTheTop) {
     EXPECT_EQ(popoverPlace({1000, 4, 24, 24}, {340, 500}, screen, screen.adjusted(0, 32, 0, 0), 6),
-              QRect(841, 38, 340, 500));
+              QRect(842, 38, 340, 500));
 }
 
 TEST(PopoverPlacement, StandsOnAnIconInAPanelAtTheBottom) {
@@ -36,7 +36,15 @@ TEST(PopoverPlacement, StaysOnTheScreenInEveryCorner) {
 
 TEST(PopoverPlacement, IsNoLargerThanTheScreen) {
     const QRect available = screen.adjusted(0, 32, 0, 0);
-    EXPECT_EQ(popoverPlace({1900, 4, 24, 24}, {340, 3000}, screen, available, 6), QRect(1580, 32, 340, 1048));
+    EXPECT_EQ(popoverPlace({1900, 4, 24, 24}, {340, 3000}, screen, available, 6), QRect(1580, 38, 340, 1042));
+}
+
+TEST(PopoverPlacement, LeavesTheIconFreeOfAPanelThatTakesNoPartOfTheScreen) {
+    EXPECT_EQ(popoverPlace({1896, 0, 24, 28}, {340, 3000}, screen, screen, 6), QRect(1580, 34, 340, 1046));
+}
+
+TEST(PopoverPlacement, CoversWhatIsInTheMiddleWhenItIsTooLargeForTheRest) {
+    EXPECT_EQ(popoverPlace({900, 500, 1, 1}, {340, 900}, screen, screen, 6).size(), QSize(340, 900));
 }
 
 TEST(PopoverPlacement, UsesTheScreenThatTheIconIsOn) {

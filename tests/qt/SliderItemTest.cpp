@@ -34,7 +34,7 @@ double share(ViewBench& bench) {
 
 // Where the knob's middle is at a share of the way.
 QPointF pointer(ViewBench& bench, double at) {
-    return {8 + at * (bench.at("slider").width() - 16), bench.at("slider").height() / 2.0};
+    return {10 + at * (bench.at("slider").width() - 20), bench.at("slider").height() / 2.0};
 }
 
 TEST(SliderItem, TellsNothingOfWhatTheProgramChanges) {

@@ -72,6 +72,8 @@ inline constexpr int scrollBarWidth = 6;
 inline constexpr int disclosureSpacing = 6;
 inline constexpr int popoverRadius = 12;
 inline constexpr int popoverGap = 6;
+// For the title bar, which the available part of a screen doesn't leave out.
+inline constexpr int roomForFrame = 60;
 inline constexpr int formPadding = 20;
 inline constexpr int sectionSpacing = 18;
 inline constexpr int sectionTitleSpacing = 7;

@@ -92,7 +92,7 @@ void ScrollView::resizeEvent(QResizeEvent* event) {
 
 void ScrollView::placeBar() {
     const int thickness = Look::current().pixels(metrics::scrollBarWidth);
-    bar_->setGeometry(width() - thickness - 1, 3, thickness, std::max(0, height() - 6));
+    bar_->setGeometry(width() - thickness - 2, 3, thickness, std::max(0, height() - 6));
     bar_->setVisible(verticalScrollBar()->maximum() > 0);
     bar_->raise();
 }
