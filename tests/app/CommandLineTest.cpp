@@ -90,7 +90,29 @@ TEST(CommandLine, RefusesALooseWordByName) {
 TEST(CommandLine, RefusesVirtualTimeForRealMonitors) {
     EXPECT_EQ(mistakeOf({"--virtual-time"}),
               "--virtual-time needs --simulate: real monitors answer in real time (see --help)");
-    EXPECT_TRUE(parsed({"--virtual-time", "--simulate"}).virtualTime);
+    EXPECT_TRUE(parsed({"--virtual-time", "--simulate", "--probe"}).virtualTime);
+}
+
+TEST(CommandLine, RefusesVirtualTimeForPeople) {
+    EXPECT_EQ(mistakeOf({"--virtual-time", "--simulate"}),
+              "--virtual-time is for --probe and --play: people live in real time (see --help)");
+}
+
+TEST(CommandLine, TakesAFolderForPictures) {
+    EXPECT_EQ(parsed({"--screenshot", "a folder"}).screenshot, "a folder");
+    EXPECT_FALSE(parsed({}).screenshot);
+}
+
+TEST(CommandLine, WantsAFolderForPictures) {
+    EXPECT_EQ(mistakeOf({"--screenshot", ""}), "--screenshot: no folder is given (see --help)");
+}
+
+TEST(CommandLine, RefusesPicturesOfWhatHasNoInterface) {
+    const std::string reason =
+        "--screenshot draws the interface: not with --probe, --play or --parse-capabilities (see --help)";
+    EXPECT_EQ(mistakeOf({"--screenshot", "a", "--probe", "--simulate"}), reason);
+    EXPECT_EQ(mistakeOf({"--screenshot", "a", "--play", "wake"}), reason);
+    EXPECT_EQ(mistakeOf({"--screenshot", "a", "--parse-capabilities"}), reason);
 }
 
 TEST(CommandLine, TakesAStoryWithADeskOrWithout) {

@@ -95,7 +95,7 @@ Node moreSettings() {
 Node connectedCard() {
     Node volume = slider("speaker.wave.2.fill", "Volume", 20, "20%");
     volume.children.push_back(symbolButton("speaker.slash.fill", "Unmute"));
-    return card("connected", {header("LG UltraFine 27UP850 with a very long name", "Current input: HDMI 1",
+    return card("connected", {header("Halden Wide 27UP850 with a very long name", "Current input: HDMI 1",
                                      "display", {modePicker("dial.medium"), outputSwitch()}),
                               slider("sun.max.fill", "Brightness", 72, "72%"),
                               slider("circle.lefthalf.filled", "Contrast", 100, "100%"), std::move(volume),
@@ -105,14 +105,14 @@ Node connectedCard() {
 Node confirmingCard() {
     Node panel{
         .element = Stack{.spacing = 10, .background = Background::warning, .cornerRadius = 8},
-        .children = {wrappedText("The Mac stops sending a picture to Dell U2720Q and its windows move to "
+        .children = {wrappedText("The Mac stops sending a picture to Norvik N2720 and its windows move to "
                                  "the other displays. First, the monitor switches to HDMI 1. To bring it "
                                  "back, use Turn On here in the menu.",
                                  Font::callout),
                      row(8, {spacer(), button("Cancel", Button::Style::bordered, Font::callout),
                              button("Turn Output Off", Button::Style::prominent, Font::callout)})}};
     return card("confirming",
-                {header("Dell U2720Q", "DDC/CI", "display", {modePicker("dial.medium"), outputSwitch()}),
+                {header("Norvik N2720", "DDC/CI", "display", {modePicker("dial.medium"), outputSwitch()}),
                  std::move(panel).padding(10).fillWidth()});
 }
 
@@ -128,7 +128,7 @@ Node unavailableCard() {
 }
 
 Node offCard() {
-    return card("off", {header("BenQ PD3220U", "Mac output off", "display.trianglebadge.exclamationmark",
+    return card("off", {header("Arcora P3220", "Mac output off", "display.trianglebadge.exclamationmark",
                                {button("Turn On", Button::Style::prominent, Font::callout)})})
         .withContextMenu({"Forget This Monitor"}, [](std::size_t) {});
 }
@@ -136,7 +136,7 @@ Node offCard() {
 Node loadingCard() {
     Node progress{.element = Progress{}};
     return card("loading",
-                {header("EIZO EV2785", "DDC/CI", "display", {modePicker("wand.and.rays"), outputSwitch()}),
+                {header("Tessera T2785", "DDC/CI", "display", {modePicker("wand.and.rays"), outputSwitch()}),
                  row(6, {std::move(progress),
                          text("Reading the monitor over DDC…", Font::callout, Tone::secondary)})});
 }
@@ -168,15 +168,17 @@ Node samplePopover() {
                .children = {column(10, {offCard(), connectedCard(), confirmingCard(), unavailableCard(),
                                         loadingCard(), builtInCard()})
                                 .fillWidth()}};
-    return column(10, {row(8, {image(applicationIcon).width(22).height(22), text("Vantrel", Font::headline),
-                               spacer()}),
-                       row(6, {image("exclamationmark.triangle.fill", Font::caption, Tone::warning),
-                               wrappedText(
-                                   "Dell U2720Q could not be switched to HDMI 1: the monitor did not answer.",
-                                   Font::caption, Tone::warning)}),
-                       std::move(cards), divider(),
-                       row(8, {button("Settings", Button::Style::borderless, Font::callout), spacer(),
-                               button("Quit", Button::Style::borderless, Font::callout)})})
+    return column(
+               10,
+               {row(8,
+                    {image(applicationIcon).width(22).height(22), text("Vantrel", Font::headline), spacer()}),
+                row(6,
+                    {image("exclamationmark.triangle.fill", Font::caption, Tone::warning),
+                     wrappedText("Norvik N2720 could not be switched to HDMI 1: the monitor did not answer.",
+                                 Font::caption, Tone::warning)}),
+                std::move(cards), divider(),
+                row(8, {button("Settings", Button::Style::borderless, Font::callout), spacer(),
+                        button("Quit", Button::Style::borderless, Font::callout)})})
         .padding(12)
         .width(340)
         .key("popover");
@@ -199,7 +201,7 @@ Node sampleForm() {
                       .children = {std::move(raw).fillWidth().key("raw")}};
     Node add{.element = Menu{.title = "Add Input", .options = {"VGA 1 (0x01)", "DVI 1 (0x03)"}}};
     Node display{
-        .element = Section{.title = "LG UltraFine 27UP850"},
+        .element = Section{.title = "Halden Wide 27UP850"},
         .children = {picker("Control mode", {"Automatic", "DDC", "Software"}, 0),
                      wrappedText("Some monitors report the wrong inputs. Adjust the list to match your "
                                  "monitor's physical inputs.",

@@ -2,6 +2,7 @@
 // what a person does to it.
 #pragma once
 
+#include <QAccessible>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>

@@ -16,6 +16,7 @@ SOURCE_MEDIAN = 170
 NAMED_AFTER_SUBJECT = {
     "src/platform/simulated/MonitorLog.h": "what is recorded of a simulated monitor",
     "src/platform/simulated/ValueReaders.h": "how the values of a desk file are read",
+    "src/ui/qt/Painting.h": "the strokes that several controls share",
 }
 
 _TYPE = re.compile(r"\b(?:class|struct|enum)\s+\w+[^;(){}]*\{")

@@ -1,7 +1,8 @@
 """Includes agree with the rooms' LINKS lists in src/CMakeLists.txt.
 
 A room may include itself and what it links, directly or through another room.
-Only src/app and the tests may name an implementation of the platform."""
+Only src/app and the tests may name an implementation of the platform, and only
+the room that draws with a toolkit may name that toolkit."""
 
 import posixpath
 import re
@@ -14,11 +15,17 @@ ROOMS = "src/CMakeLists.txt"
 APPLICATION = "src/app"
 IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix")
 
+# The one room for each toolkit, by how its headers begin.
+TOOLKITS = {"Q": "src/ui/qt"}
+
 # What a library of the system is included as, and what has to be linked for it.
 LIBRARIES = {
     "nlohmann/": "nlohmann_json::nlohmann_json",
     "CLI/": "CLI11::CLI11",
     "utf8proc.h": "PkgConfig::utf8proc",
+    "QSvg": "Qt6::Svg",
+    "QDBus": "Qt6::DBus",
+    "Q": "Qt6::Widgets",
     "gtest/": None,
     "gmock/": None,
     "benchmark/": None,
@@ -75,6 +82,9 @@ def check(tree):
 
 
 def _objection(header, is_angled, room, allowed, room_of, folder):
+    owner = next((home for prefix, home in TOOLKITS.items() if is_angled and header.startswith(prefix)), folder)
+    if folder != owner:
+        return f"only {owner} may include <{header}>"
     library = next((target for prefix, target in LIBRARIES.items() if header.startswith(prefix)), "")
     if library != "":
         return "" if library in allowed else f"{room} does not link what <{header}> belongs to"

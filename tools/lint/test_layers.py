@@ -10,7 +10,8 @@ vantrel_room(platform LINKS vantrel_runtime)
 vantrel_room(simulated FOLDER platform/simulated
              LINKS vantrel_platform nlohmann_json::nlohmann_json)
 vantrel_room(posix FOLDER platform/posix LINKS vantrel_platform)
-vantrel_room(app LINKS vantrel_simulated vantrel_posix CLI11::CLI11)
+vantrel_room(qt FOLDER ui/qt LINKS vantrel_runtime Qt6::Widgets Qt6::Svg)
+vantrel_room(app LINKS vantrel_simulated vantrel_posix vantrel_qt CLI11::CLI11)
 """
 
 
@@ -43,6 +44,12 @@ class LayersTest(unittest.TestCase):
         include = "#include <nlohmann/json.hpp>\n"
         self.assertEqual(reasons("src/platform/simulated/Desk.cpp", include), [])
         self.assertEqual(len(reasons("src/platform/Log.cpp", include)), 1)
+
+    def test_a_toolkit_is_named_by_its_own_room_only(self):
+        include = "#include <QWidget>\n#include <QSvgRenderer>\n"
+        self.assertEqual(reasons("src/ui/qt/QtView.cpp", include), [])
+        self.assertEqual(reasons("src/app/main.cpp", "#include <QWidget>\n"), ["only src/ui/qt may include <QWidget>"])
+        self.assertEqual(len(reasons("src/ui/qt/QtView.cpp", "#include <QDBusConnection>\n")), 1)
 
     def test_no_room_includes_the_test_libraries(self):
         self.assertEqual(len(reasons("src/app/main.cpp", "#include <gtest/gtest.h>\n")), 1)

@@ -4,6 +4,7 @@
 
 #include "ui/qt/Look.h"
 #include "ui/qt/PaintedButton.h"
+#include "ui/qt/Painting.h"
 #include "ui/qt/Symbols.h"
 #include "ui/qt/TextLines.h"
 
@@ -47,7 +48,7 @@ class PushButton : public PaintedButton {
         const Look& look = Look::current();
         const bool isProminent = button_.style == ui::Button::Style::prominent;
         paintPlate(painter);
-        const QColor ink = isProminent ? look.onAccent : look.text;
+        const QColor ink = isProminent ? look.onPlate : look.text;
         if (isSymbolOnly()) {
             paintSymbol(painter, centered(look.symbolSide(button_.font)), button_.symbol, ink);
             return;
@@ -87,7 +88,7 @@ class PushButton : public PaintedButton {
                 paintRounded(painter, rect(), radius, fill(), look.controlBorder);
                 break;
             case ui::Button::Style::prominent:
-                paintRounded(painter, rect(), radius, look.accent);
+                paintRounded(painter, rect(), radius, look.plate);
                 if (isDown() || underMouse()) paintRounded(painter, rect(), radius, shade());
                 break;
             case ui::Button::Style::borderless:
@@ -97,7 +98,7 @@ class PushButton : public PaintedButton {
     }
     // Over the accent: towards what is written on it would make that hard to read.
     QColor shade() const {
-        QColor shade = Look::current().onAccent.lightnessF() > 0.5F ? Qt::black : Qt::white;
+        QColor shade = Look::current().onPlate.lightnessF() > 0.5F ? Qt::black : Qt::white;
         shade.setAlphaF(!isEnabled() ? 0.0F : isDown() ? 0.2F : 0.08F);
         return shade;
     }

@@ -4,6 +4,7 @@
 
 #include "ui/qt/Look.h"
 #include "ui/qt/PaintedButton.h"
+#include "ui/qt/Painting.h"
 #include "ui/qt/TextLines.h"
 
 namespace vantrel::qt {

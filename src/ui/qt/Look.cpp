@@ -4,6 +4,8 @@
 #include <QFontInfo>
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <tuple>
 
 #include "runtime/Fatal.h"
 
@@ -39,9 +41,15 @@ QColor readableOn(std::initializer_list<QColor> backgrounds, QColor color, const
     return strong;
 }
 
-QColor writtenOn(const QColor& background, const QColor& wish) {
-    if (contrast(background, wish) >= readable) return wish;
-    return contrast(background, Qt::white) >= contrast(background, Qt::black) ? Qt::white : Qt::black;
+// The accent with what the palette writes on it, a little darker or lighter if that
+// makes it readable; with another ink if it doesn't.
+std::pair<QColor, QColor> plateOf(const QColor& accent, const QColor& ink) {
+    const QColor away = luminance(ink) > luminance(accent) ? Qt::black : Qt::white;
+    for (const double share : {0.0, 0.06, 0.12, 0.18, 0.24, 0.3}) {
+        const QColor plate = blend(withOpacity(away, share), accent);
+        if (contrast(plate, ink) >= readable) return {plate, ink};
+    }
+    return {accent, contrast(accent, Qt::white) >= contrast(accent, Qt::black) ? Qt::white : Qt::black};
 }
 
 double sizeFactor(ui::Font kind) {
@@ -79,7 +87,7 @@ Look::Look(const QPalette& palette, const QFont& base) : font_(base) {
     window = palette.color(QPalette::Active, QPalette::Window);
     text = palette.color(QPalette::Active, QPalette::WindowText);
     accent = palette.color(QPalette::Active, QPalette::Highlight);
-    onAccent = writtenOn(accent, palette.color(QPalette::Active, QPalette::HighlightedText));
+    std::tie(plate, onPlate) = plateOf(accent, palette.color(QPalette::Active, QPalette::HighlightedText));
     isDark = luminance(window) < luminance(text);
 
     card = blend(withOpacity(Qt::white, isDark ? 0.06 : 0.72), window);

@@ -31,8 +31,8 @@ class Look {
     // What lies behind everything, and the panel around what belongs together.
     QColor window, card, cardBorder, separator;
     QColor text, secondaryText, warningText;
-    // What is chosen, switched on or the thing to press, and what is written on it.
-    QColor accent, onAccent;
+    // What is on or done; what is written on, chosen or the thing to press; its ink.
+    QColor accent, plate, onPlate;
     QColor control, hoveredControl, pressedControl, controlBorder;
     QColor field, track, knob, knobBorder;
     QColor warningBackground;
@@ -72,6 +72,8 @@ inline constexpr int scrollBarWidth = 6;
 inline constexpr int disclosureSpacing = 6;
 inline constexpr int popoverRadius = 12;
 inline constexpr int popoverGap = 6;
+// For the title bar, which the available part of a screen doesn't leave out.
+inline constexpr int roomForFrame = 60;
 inline constexpr int formPadding = 20;
 inline constexpr int sectionSpacing = 18;
 inline constexpr int sectionTitleSpacing = 7;

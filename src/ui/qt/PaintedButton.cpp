@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "ui/qt/Look.h"
+#include "ui/qt/Painting.h"
 
 namespace vantrel::qt {
 

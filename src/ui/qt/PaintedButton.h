@@ -4,8 +4,9 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QPainter>
 
-#include "ui/qt/Painting.h"
+#include "ui/qt/FocusRing.h"
 #include "ui/qt/Spoken.h"
 
 namespace vantrel::qt {

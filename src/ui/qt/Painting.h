@@ -3,20 +3,8 @@
 
 #include <QPainter>
 #include <QRectF>
-#include <QWidget>
 
 namespace vantrel::qt {
-
-// Whether the keyboard is being used on a widget: a pointer needs no ring.
-class FocusRing {
-  public:
-    // From the widget's event().
-    void follow(QWidget& widget, const QEvent& event);
-    bool isShown() const { return isShown_; }
-
-  private:
-    bool isShown_ = false;
-};
 
 void paintRounded(QPainter& painter, const QRectF& rectangle, double radius, const QColor& fill,
                   const QColor& border = Qt::transparent);

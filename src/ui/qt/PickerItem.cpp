@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "ui/qt/FocusRing.h"
 #include "ui/qt/Look.h"
 #include "ui/qt/Painting.h"
 #include "ui/qt/Spoken.h"
@@ -14,27 +15,26 @@
 namespace vantrel::qt {
 namespace {
 
-class Box : public QComboBox {
+class Box : public QComboBox, public Spoken {
   public:
-    explicit Box(QWidget* parent) : QComboBox(parent) {
+    explicit Box(QWidget* parent) : QComboBox(parent), Spoken(QAccessible::ComboBox) {
         setFocusPolicy(Qt::StrongFocus);
         setAttribute(Qt::WA_Hover);
     }
 
+    QString spokenValue() const override { return currentText(); }
+    void addState(QAccessible::State& state) const override { state.hasPopup = true; }
+
     int naturalWidth() const {
         const Look& look = Look::current();
-        const QFontMetrics metrics(font());
         int widest = 0;
-        for (int i = 0; i < count(); ++i) widest = std::max(widest, metrics.horizontalAdvance(itemText(i)));
+        for (int i = 0; i < count(); ++i) widest = std::max(widest, lines(itemText(i)).naturalWidth());
         return std::max(look.pixels(metrics::pickerMinimumWidth), widest + 2 * padding() + chevronRoom());
     }
     int naturalHeight() const {
         return std::max(Look::current().pixels(metrics::controlHeight), QFontMetrics(font()).height() + 6);
     }
-    bool isCut() const {
-        return QFontMetrics(font()).horizontalAdvance(currentText()) >
-               width() - 2 * padding() - chevronRoom();
-    }
+    bool isCut() const { return lines(currentText()).isCut(textRoom()); }
 
   protected:
     bool event(QEvent* event) override {
@@ -52,9 +52,7 @@ class Box : public QComboBox {
         const bool isHovered = isEnabled() && underMouse();
         paintRounded(painter, rect(), radius, isHovered ? look.hoveredControl : look.control,
                      look.controlBorder);
-        const TextLines text(currentText(), font(), TextLines::Wrapping::none);
-        text.paint(painter, {padding(), 0, width() - 2 * padding() - chevronRoom(), height()}, Qt::AlignLeft,
-                   look.text);
+        lines(currentText()).paint(painter, {padding(), 0, textRoom(), height()}, Qt::AlignLeft, look.text);
         const int side = look.pixels(metrics::chevronSide);
         paintChevron(painter, QRectF(width() - side - look.pixels(6), (height() - side) / 2.0, side, side),
                      Chevron::upAndDown, look.secondaryText);
@@ -62,6 +60,8 @@ class Box : public QComboBox {
     }
 
   private:
+    TextLines lines(const QString& text) const { return {text, font(), TextLines::Wrapping::none}; }
+    int textRoom() const { return width() - 2 * padding() - chevronRoom(); }
     static int padding() { return Look::current().pixels(9); }
     static int chevronRoom() { return Look::current().pixels(metrics::chevronSide + 2); }
 

@@ -22,29 +22,55 @@ int within(int start, int length, int low, int size) {
     return std::clamp(start, low, low + std::max(0, size - length));
 }
 
+// The part of `available` that is on the far side of the anchor, as long as that is
+// most of it: the panel of a desktop need not say that it takes part of the screen.
+QRect beyond(const QRect& anchor, Edge edge, const QRect& available, int gap) {
+    QRect rest = available;
+    switch (edge) {
+        case Edge::top:
+            rest.setTop(std::max(rest.top(), anchor.bottom() + 1) + gap);
+            break;
+        case Edge::bottom:
+            rest.setBottom(std::min(rest.bottom(), anchor.top() - 1) - gap);
+            break;
+        case Edge::left:
+            rest.setLeft(std::max(rest.left(), anchor.right() + 1) + gap);
+            break;
+        case Edge::right:
+            rest.setRight(std::min(rest.right(), anchor.left() - 1) - gap);
+            break;
+    }
+    const bool isMost =
+        3 * rest.width() >= 2 * available.width() && 3 * rest.height() >= 2 * available.height();
+    return isMost ? rest : available;
+}
+
 }  // namespace
 
 QRect popoverPlace(const QRect& anchor, const QSize& size, const QRect& screen, const QRect& available,
                    int gap) {
-    const QSize fitting = size.boundedTo(available.size());
-    QPoint corner(anchor.center().x() - fitting.width() / 2, anchor.center().y() - fitting.height() / 2);
-    switch (edgeOf(anchor, screen, available)) {
+    const Edge edge = edgeOf(anchor, screen, available);
+    const QRect room = beyond(anchor, edge, available, gap);
+    const QSize fitting = size.boundedTo(room.size());
+    QRect place(QPoint(), fitting);
+    place.moveCenter(anchor.center());
+    switch (edge) {
         case Edge::top:
-            corner.setY(std::max(anchor.bottom() + 1, available.top()) + gap);
+            place.moveTop(room.top());
             break;
         case Edge::bottom:
-            corner.setY(std::min(anchor.top(), available.bottom() + 1) - gap - fitting.height());
+            place.moveBottom(room.bottom());
             break;
         case Edge::left:
-            corner.setX(std::max(anchor.right() + 1, available.left()) + gap);
+            place.moveLeft(room.left());
             break;
         case Edge::right:
-            corner.setX(std::min(anchor.left(), available.right() + 1) - gap - fitting.width());
+            place.moveRight(room.right());
             break;
     }
-    return {QPoint(within(corner.x(), fitting.width(), available.left(), available.width()),
-                   within(corner.y(), fitting.height(), available.top(), available.height())),
-            fitting};
+    place.moveLeft(within(place.left(), fitting.width(), room.left(), room.width()));
+    place.moveTop(within(place.top(), fitting.height(), room.top(), room.height()));
+    return place;
 }
 
 }  // namespace vantrel::qt

@@ -49,7 +49,6 @@ struct QtApplication::Parts {
 
 QtApplication::QtApplication(int& argumentCount, char** arguments) {
     QApplication::setApplicationName("vantrel");
-    QApplication::setApplicationDisplayName("Vantrel");
     QApplication::setDesktopFileName("org.vantrel.Vantrel");
     openSignalPipe();
     parts_ = std::make_unique<Parts>(argumentCount, arguments);

@@ -40,7 +40,7 @@ class QtPopover::Panel : public QWidget {
   public:
     explicit Panel(QtStatusItem& item) : item_(item) {
         setWindowIcon(applicationWindowIcon());
-        setWindowTitle(QApplication::applicationDisplayName());
+        setWindowTitle("Vantrel");
         // The press that closes the panel must not open it again from the icon.
         setAttribute(Qt::WA_NoMouseReplay);
     }
@@ -165,7 +165,7 @@ void QtPopover::place() {
             popoverPlace(anchor_, size, screen->geometry(), available, look.pixels(metrics::popoverGap)));
         return;
     }
-    panel_->setFixedSize(size.boundedTo(available.size()));
+    panel_->setFixedSize(size.boundedTo(available.size() - QSize(0, look.pixels(metrics::roomForFrame))));
     if (!panel_->isVisible()) {
         QRect middle(QPoint(), panel_->size());
         middle.moveCenter(available.center());

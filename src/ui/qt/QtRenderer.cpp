@@ -91,7 +91,7 @@ void QtRenderer::finish() {
     {
         const Stage::Telling telling(stage_);
         if (isOrderNew_ && root_) {
-            QWidget* last = nullptr;
+            QWidget* last = &canvas_;
             orderWidgets(*root_, last);
         }
         isOrderNew_ = false;
@@ -107,7 +107,7 @@ void QtRenderer::orderWidgets(const Item& item, QWidget*& last) {
     QWidget* const proxy = item.widget()->focusProxy();
     QWidget* const widget = proxy != nullptr ? proxy : item.widget();
     if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
-        if (last != nullptr) QWidget::setTabOrder(last, widget);
+        QWidget::setTabOrder(last, widget);
         last = widget;
     }
     for (const auto& child : item.children()) orderWidgets(*child, last);

@@ -30,6 +30,8 @@ QtView::QtView(QWidget* parent)
     : canvas_(std::make_unique<Canvas>(parent)), renderer_(std::make_unique<QtRenderer>(*canvas_)) {
     installSpokenWidgets();
     canvas_->renderer = renderer_.get();
+    // Where the keyboard is before its first Tab, and after a click beside everything.
+    canvas_->setFocusPolicy(Qt::ClickFocus);
 }
 
 QtView::~QtView() { canvas_->renderer = nullptr; }

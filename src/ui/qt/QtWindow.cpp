@@ -9,13 +9,6 @@
 #include "ui/qt/Symbols.h"
 
 namespace vantrel::qt {
-namespace {
-
-// For the title bar, which the available part of a screen doesn't leave out.
-constexpr int roomForFrame = 60;
-
-}  // namespace
-
 class QtWindow::Frame : public QWidget {
   public:
     explicit Frame(const std::string& title) {
@@ -56,7 +49,8 @@ void QtWindow::fit() {
     QSize size = view_->fittingPixels();
     const QScreen* const screen = frame_->screen();
     if (screen != nullptr) {
-        size = size.boundedTo(screen->availableSize() - QSize(0, Look::current().pixels(roomForFrame)));
+        size =
+            size.boundedTo(screen->availableSize() - QSize(0, Look::current().pixels(metrics::roomForFrame)));
     }
     if (size != frame_->size()) frame_->setFixedSize(size);
 }

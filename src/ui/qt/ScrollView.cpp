@@ -1,5 +1,6 @@
 #include "ui/qt/ScrollView.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -72,6 +73,11 @@ ScrollView::ScrollView(QWidget* parent) : QScrollArea(parent) {
     contents->setAutoFillBackground(false);
     verticalScrollBar()->setSingleStep(16);
     bar_ = new Bar(this, verticalScrollBar());
+    QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* focused) {
+        // What the pointer presses must not move away under it.
+        if (focused == nullptr || QApplication::mouseButtons() != Qt::NoButton) return;
+        if (widget()->isAncestorOf(focused)) ensureWidgetVisible(focused, 0, Look::current().pixels(12));
+    });
 }
 
 void ScrollView::setContentSize(const QSize& size) {
@@ -86,7 +92,7 @@ void ScrollView::resizeEvent(QResizeEvent* event) {
 
 void ScrollView::placeBar() {
     const int thickness = Look::current().pixels(metrics::scrollBarWidth);
-    bar_->setGeometry(width() - thickness - 1, 3, thickness, std::max(0, height() - 6));
+    bar_->setGeometry(width() - thickness - 2, 3, thickness, std::max(0, height() - 6));
     bar_->setVisible(verticalScrollBar()->maximum() > 0);
     bar_->raise();
 }

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "ui/qt/Look.h"
+#include "ui/qt/Painting.h"
 
 namespace vantrel::qt {
 namespace {
@@ -16,6 +17,8 @@ namespace {
 constexpr int positionsPerStep = 10;
 constexpr int mostPositions = 10'000'000;
 constexpr int stepsPerPage = 10;
+// For the focus ring around the knob, on each side.
+constexpr double ringRoom = 2;
 // In eighths of a degree, as a wheel reports them.
 constexpr double wheelNotch = 120;
 // For a model that doesn't take over what a person did.
@@ -164,15 +167,15 @@ void SliderWidget::mouseReleaseEvent(QMouseEvent* event) {
 
 void SliderWidget::slideTo(const QPointF& pointer) {
     const double side = knob().width();
-    const double way = width() - side;
-    const double share = way > 0 ? (pointer.x() - grip_ - side / 2) / way : 0;
+    const double way = width() - side - 2 * ringRoom;
+    const double share = way > 0 ? (pointer.x() - grip_ - side / 2 - ringRoom) / way : 0;
     slideTo(static_cast<int>(std::lround(std::clamp(share, 0.0, 1.0) * maximum())));
 }
 
 QRectF SliderWidget::knob() const {
     const double side = Look::current().pixels(metrics::sliderKnob);
     const double share = maximum() > 0 ? double(value()) / maximum() : 0;
-    return {share * (width() - side), (height() - side) / 2, side, side};
+    return {ringRoom + share * (width() - side - 2 * ringRoom), (height() - side) / 2, side, side};
 }
 
 void SliderWidget::paintEvent(QPaintEvent*) {
@@ -181,7 +184,7 @@ void SliderWidget::paintEvent(QPaintEvent*) {
     if (!isEnabled()) painter.setOpacity(disabledOpacity);
     const QRectF handle = knob();
     const double thickness = look.pixels(metrics::sliderTrack);
-    const QRectF track(1, (height() - thickness) / 2, width() - 2, thickness);
+    const QRectF track(ringRoom, (height() - thickness) / 2, width() - 2 * ringRoom, thickness);
     paintRounded(painter, track, thickness / 2, look.track);
     QRectF done = track;
     done.setRight(handle.center().x());
@@ -191,7 +194,7 @@ void SliderWidget::paintEvent(QPaintEvent*) {
     if (isSliderDown())
         paintRounded(painter, handle.adjusted(1, 1, -1, -1), handle.width() / 2, look.control);
     if (hasFocus() && ring_.isShown()) {
-        const QRectF ring = handle.adjusted(-2, -2, 2, 2);
+        const QRectF ring = handle.adjusted(-ringRoom, -ringRoom, ringRoom, ringRoom);
         paintFocusRing(painter, ring, ring.width() / 2);
     }
 }

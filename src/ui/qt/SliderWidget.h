@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "ui/Element.h"
-#include "ui/qt/Painting.h"
+#include "ui/qt/FocusRing.h"
 #include "ui/qt/Spoken.h"
 
 namespace vantrel::qt {

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAccessibleWidget>
+#include <QComboBox>
 
 namespace vantrel::qt {
 namespace {
@@ -27,12 +28,15 @@ class AccessibleSpoken : public QAccessibleWidget {
     QStringList actionNames() const override {
         QStringList names = QAccessibleWidget::actionNames();
         if (button() != nullptr) names.prepend(isCheckable() ? toggleAction() : pressAction());
+        if (box() != nullptr) names.prepend(showMenuAction());
         return names;
     }
 
     void doAction(const QString& name) override {
         if (button() != nullptr && (name == pressAction() || name == toggleAction())) {
             button()->click();
+        } else if (box() != nullptr && name == showMenuAction()) {
+            box()->showPopup();
         } else {
             QAccessibleWidget::doAction(name);
         }
@@ -40,6 +44,7 @@ class AccessibleSpoken : public QAccessibleWidget {
 
   private:
     QAbstractButton* button() const { return dynamic_cast<QAbstractButton*>(widget()); }
+    QComboBox* box() const { return dynamic_cast<QComboBox*>(widget()); }
     bool isCheckable() const { return state().checkable; }
 
     const Spoken& spoken_;

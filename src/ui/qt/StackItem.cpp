@@ -114,6 +114,7 @@ void StackItem::arrangeRow(const QRect& inside) {
     for (std::size_t i = 0; i < widths.size(); ++i) {
         const int height = children()[i]->height(widths[i]);
         const int top = stack_.alignment == ui::Alignment::center ? (inside.height() - height) / 2 : 0;
+        children()[i]->setBehindExpanding(i > 0 && children()[i - 1]->expands());
         children()[i]->place({left, inside.top() + top, widths[i], height});
         left += widths[i] + Look::current().pixels(stack_.spacing);
     }

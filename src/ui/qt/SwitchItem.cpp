@@ -4,6 +4,7 @@
 
 #include "ui/qt/Look.h"
 #include "ui/qt/PaintedButton.h"
+#include "ui/qt/Painting.h"
 #include "ui/qt/TextLines.h"
 
 namespace vantrel::qt {
@@ -37,8 +38,8 @@ class SwitchButton : public PaintedButton {
     int minimumWidth() const { return switchRoom() + (hasTitle() ? title_.minimumWidth() : 0); }
     int naturalWidth() const { return switchRoom() + (hasTitle() ? title_.naturalWidth() : 0); }
     int naturalHeight(int width) const {
-        const int ring = Look::current().pixels(metrics::switchHeight) + 4;
-        return hasTitle() ? std::max(ring, title_.height(width - switchRoom())) : ring;
+        const int high = Look::current().pixels(metrics::switchHeight);
+        return hasTitle() ? std::max(high, title_.height(width - switchRoom())) + 4 : high;
     }
 
   protected:
@@ -51,7 +52,7 @@ class SwitchButton : public PaintedButton {
         }
         const int wide = look.pixels(metrics::switchWidth);
         const int high = look.pixels(metrics::switchHeight);
-        const QRectF track(width() - wide - 2, (height() - high) / 2.0, wide, high);
+        const QRectF track(width() - wide, (height() - high) / 2.0, wide, high);
         QColor rest = look.track;
         if (isEnabled() && underMouse()) rest.setAlphaF(rest.alphaF() + 0.08F);
         paintRounded(painter, track, high / 2.0, isOn_ ? look.accent : rest,
@@ -67,10 +68,10 @@ class SwitchButton : public PaintedButton {
     }
 
   private:
-    // With room for the focus ring, and between it and the label.
+    // With what is between it and the label.
     int switchRoom() const {
         const Look& look = Look::current();
-        return look.pixels(metrics::switchWidth) + 4 + (hasTitle() ? look.pixels(12) : 0);
+        return look.pixels(metrics::switchWidth) + (hasTitle() ? look.pixels(12) : 0);
     }
 
     bool isOn_ = false;

@@ -2,6 +2,7 @@
 
 #include "ui/qt/Look.h"
 #include "ui/qt/OptionMenu.h"
+#include "ui/qt/Painting.h"
 #include "ui/qt/Symbols.h"
 
 namespace vantrel::qt {

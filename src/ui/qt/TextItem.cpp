@@ -15,12 +15,13 @@ class Label : public QWidget, public Spoken {
 
     TextLines lines;
     ui::Tone tone = ui::Tone::primary;
+    Qt::Alignment alignment = Qt::AlignLeft;
 
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         if (!isEnabled()) painter.setOpacity(disabledOpacity);
-        lines.paint(painter, rect(), Qt::AlignLeft, Look::current().tone(tone));
+        lines.paint(painter, rect(), alignment, Look::current().tone(tone));
     }
 };
 
@@ -30,6 +31,11 @@ Label& labelOf(const Item& item) { return *static_cast<Label*>(item.widget()); }
 
 TextItem::TextItem(Stage& stage, ui::ElementID element, QWidget* parent)
     : Item(stage, element, new Label(parent)) {}
+
+// So that the numbers beside sliders end below one another.
+void TextItem::setBehindExpanding(bool isBehind) {
+    labelOf(*this).alignment = isBehind ? Qt::AlignRight : Qt::AlignLeft;
+}
 
 void TextItem::apply(const ui::Node& node) {
     const auto& text = std::get<ui::Text>(node.element);

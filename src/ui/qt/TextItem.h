@@ -10,6 +10,8 @@ class TextItem : public Item {
   public:
     TextItem(Stage& stage, ui::ElementID element, QWidget* parent);
 
+    void setBehindExpanding(bool isBehind) override;
+
   protected:
     void apply(const ui::Node& node) override;
     WidthRange contentWidths() const override;

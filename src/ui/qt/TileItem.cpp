@@ -6,6 +6,7 @@
 
 #include "ui/qt/Look.h"
 #include "ui/qt/PaintedButton.h"
+#include "ui/qt/Painting.h"
 #include "ui/qt/Symbols.h"
 #include "ui/qt/TextLines.h"
 
@@ -48,12 +49,12 @@ class Tile : public PaintedButton {
         const Look& look = Look::current();
         const int padding = look.pixels(tile_.padding);
         if (tile_.isSelected) {
-            paintRounded(painter, rect(), cornerRadius(), look.accent);
+            paintRounded(painter, rect(), cornerRadius(), look.plate);
             if (isDown()) paintRounded(painter, rect(), cornerRadius(), look.pressedControl);
         } else {
             paintRounded(painter, rect(), cornerRadius(), fill(), look.controlBorder);
         }
-        const QColor ink = tile_.isSelected ? look.onAccent : look.text;
+        const QColor ink = tile_.isSelected ? look.onPlate : look.text;
         const int side = symbolSide();
         paintSymbol(painter, QRectF(padding, (height() - side) / 2.0, side, side), tile_.symbol, ink);
         const int left = padding + side + gap();

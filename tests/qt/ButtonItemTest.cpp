@@ -1,0 +1,59 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "qt/ViewBench.h"
+#include "ui/qt/ButtonItem.h"
+
+namespace vantrel::qt {
+namespace {
+
+using namespace ui;
+
+struct Presses {
+    int count = 0;
+    Node button(bool isEnabled = true) {
+        return ui::button("Turn On", Button::Style::prominent)
+            .enabled(isEnabled)
+            .onPress([this] { ++count; })
+            .key("on");
+    }
+};
+
+TEST(ButtonItem, IsPressedByThePointer) {
+    Presses presses;
+    ViewBench bench(presses.button());
+    ViewBench::click(bench.at("on"));
+    EXPECT_EQ(presses.count, 1);
+}
+
+TEST(ButtonItem, IsNotPressedWhenThePointerLeavesItFirst) {
+    Presses presses;
+    ViewBench bench(presses.button());
+    ViewBench::mouse(bench.at("on"), QEvent::MouseButtonPress, {5, 5});
+    ViewBench::mouse(bench.at("on"), QEvent::MouseButtonRelease, {-50, 5});
+    EXPECT_EQ(presses.count, 0);
+}
+
+TEST(ButtonItem, IsPressedBySpaceAndReturn) {
+    Presses presses;
+    ViewBench bench(presses.button());
+    for (const int key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
+        ViewBench::press(bench.at("on"), key);
+    EXPECT_EQ(presses.count, 3);
+}
+
+TEST(ButtonItem, DoesNothingWhileItIsDisabled) {
+    Presses presses;
+    ViewBench bench(presses.button(false));
+    ViewBench::click(bench.at("on"));
+    EXPECT_EQ(presses.count, 0);
+}
+
+TEST(ButtonItem, WithOnlyASymbolIsASquareWithHelp) {
+    ViewBench bench(symbolButton("minus.circle", "Remove this input").key("remove"));
+    EXPECT_EQ(bench.place("remove").width(), bench.place("remove").height());
+    EXPECT_EQ(bench.at("remove").toolTip(), "Remove this input");
+}
+
+}  // namespace
+}  // namespace vantrel::qt
