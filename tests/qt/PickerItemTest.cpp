@@ -53,6 +53,20 @@ TEST(PickerItem, IsNotChangedByScrollingPastIt) {
     EXPECT_EQ(boxOf(bench).currentIndex(), 1);
 }
 
+TEST(PickerItem, KeepsTheEscapeThatHasClosedItsList) {
+    ViewBench bench(shown(1));
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    boxOf(bench).showPopup();
+    boxOf(bench).hidePopup();
+    escape.ignore();
+    QApplication::sendEvent(&boxOf(bench), &escape);
+    EXPECT_TRUE(escape.isAccepted());
+    bench.settle();
+    escape.ignore();
+    QApplication::sendEvent(&boxOf(bench), &escape);
+    EXPECT_FALSE(escape.isAccepted());
+}
+
 TEST(PickerItem, PutsItsBoxAtTheEndOfTheRow) {
     ViewBench bench(shown(1));
     EXPECT_EQ(boxOf(bench).geometry().right(), 299);

@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 #include <algorithm>
@@ -41,6 +42,21 @@ class Box : public QComboBox, public Spoken {
         ring_.follow(*this, *event);
         return QComboBox::event(event);
     }
+    void hidePopup() override {
+        QComboBox::hidePopup();
+        hasJustClosed_ = true;
+        QMetaObject::invokeMethod(
+            this, [this] { hasJustClosed_ = false; }, Qt::QueuedConnection);
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        // The Escape that has closed the list comes here next; it must not go on and
+        // close what is around the box as well.
+        if (hasJustClosed_ && event->matches(QKeySequence::Cancel)) {
+            event->accept();
+        } else {
+            QComboBox::keyPressEvent(event);
+        }
+    }
     // Scrolling past it must not change it.
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
@@ -66,6 +82,7 @@ class Box : public QComboBox, public Spoken {
     static int chevronRoom() { return Look::current().pixels(metrics::chevronSide + 2); }
 
     FocusRing ring_;
+    bool hasJustClosed_ = false;
 };
 
 // The label and the box, as one widget.

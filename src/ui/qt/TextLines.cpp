@@ -35,8 +35,8 @@ double layOut(QTextLayout& layout, int width, Visit visit) {
 
 }  // namespace
 
-TextLines::TextLines(QString text, QFont font, Wrapping wrapping)
-    : text_(std::move(text)), font_(std::move(font)), wrapping_(wrapping) {
+TextLines::TextLines(QString text, const QFont& font, Wrapping wrapping)
+    : text_(std::move(text)), font_(font), wrapping_(wrapping) {
     text_.replace('\n', wrapping == Wrapping::wraps ? QChar(QChar::LineSeparator) : QChar(' '));
 }
 

@@ -14,7 +14,7 @@ class TextLines {
     enum class Wrapping { none, wraps };
 
     TextLines() = default;
-    TextLines(QString text, QFont font, Wrapping wrapping);
+    TextLines(QString text, const QFont& font, Wrapping wrapping);
 
     const QString& text() const { return text_; }
     const QFont& font() const { return font_; }

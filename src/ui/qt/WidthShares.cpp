@@ -21,6 +21,7 @@ void grow(std::vector<int>& widths, const std::vector<WidthWish>& wishes, int ex
 // No wider than `limit`, as far as the minimum allows.
 std::vector<int> limited(const std::vector<WidthWish>& wishes, int limit) {
     std::vector<int> widths;
+    widths.reserve(wishes.size());
     for (const auto& [range, expands] : wishes) {
         widths.push_back(std::max(range.minimum, std::min(range.natural, limit)));
     }
