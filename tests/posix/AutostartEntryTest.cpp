@@ -12,18 +12,18 @@ namespace {
 
 using test::FakeDisk;
 
-constexpr const char* path = "/home/ann/.config/autostart/org.vantrel.Vantrel.desktop";
-const StateFolder::Environment environment{"/home/ann", {}, {}};
+constexpr const char* path = "/people/ann/.config/autostart/org.vantrel.Vantrel.desktop";
+const StateFolder::Environment environment{"/people/ann", {}, {}};
 
 struct Rig {
-    FakeDisk disk{"/home/ann"};
+    FakeDisk disk{"/people/ann"};
     test::EnglishTexts localizer;
     AutostartEntry entry{disk, environment, localizer, "/usr/bin/vantrel"};
 };
 
 // The value of a key of the file that starts `program`.
 std::string valueOf(const std::string& key, const std::string& program) {
-    FakeDisk disk("/home/ann");
+    FakeDisk disk("/people/ann");
     test::EnglishTexts localizer;
     AutostartEntry(disk, environment, localizer, program).enable();
     const std::string text = disk.bytes(path).value_or("");
@@ -44,7 +44,7 @@ TEST(AutostartEntry, LeavesNothingElseInTheFolder) {
     Rig rig;
     rig.entry.enable();
     for (const auto& found : rig.disk.paths()) {
-        EXPECT_TRUE(found == path || !found.starts_with("/home/ann/.config/autostart/")) << found;
+        EXPECT_TRUE(found == path || !found.starts_with("/people/ann/.config/autostart/")) << found;
     }
 }
 
@@ -72,8 +72,8 @@ TEST(AutostartEntry, IsOffWhenADesktopHidIt) {
 
 TEST(AutostartEntry, IsOffWhenADesktopSwitchedItOff) {
     Rig rig;
-    rig.disk.put("/home/ann/.config", "", {FileSystem::Kind::folder, false});
-    rig.disk.put("/home/ann/.config/autostart", "", {FileSystem::Kind::folder, false});
+    rig.disk.put("/people/ann/.config", "", {FileSystem::Kind::folder, false});
+    rig.disk.put("/people/ann/.config/autostart", "", {FileSystem::Kind::folder, false});
     rig.disk.put(path, "[Desktop Entry]\nX-GNOME-Autostart-enabled=false");
     EXPECT_FALSE(rig.entry.isEnabled());
 }
@@ -98,7 +98,7 @@ TEST(AutostartEntry, SaysWhyItCanNotBeWritten) {
 }
 
 TEST(AutostartEntry, SaysWhyItCanNotBeRemoved) {
-    FakeDisk disk("/home/ann");
+    FakeDisk disk("/people/ann");
     test::EnglishTexts localizer;
     AutostartEntry(disk, environment, localizer, "vantrel").enable();
     test::WatchedFileSystem refusing(disk, [](std::string_view call, const std::string&) {
@@ -107,7 +107,7 @@ TEST(AutostartEntry, SaysWhyItCanNotBeRemoved) {
     AutostartEntry entry(refusing, environment, localizer, "vantrel");
     EXPECT_EQ(entry.disable(),
               "The entry for starting at login can't be removed: "
-              "/home/ann/.config/autostart/org.vantrel.Vantrel.desktop: Permission denied");
+              "/people/ann/.config/autostart/org.vantrel.Vantrel.desktop: Permission denied");
     EXPECT_TRUE(entry.isEnabled());
 }
 

@@ -85,6 +85,24 @@ void ScrollView::setContentSize(const QSize& size) {
     placeBar();
 }
 
+// Perhaps not among its own children.
+ScrollView::~ScrollView() { delete bar_; }
+
+void ScrollView::moveEvent(QMoveEvent* event) {
+    QScrollArea::moveEvent(event);
+    placeBar();
+}
+
+void ScrollView::showEvent(QShowEvent* event) {
+    QScrollArea::showEvent(event);
+    placeBar();
+}
+
+void ScrollView::hideEvent(QHideEvent* event) {
+    QScrollArea::hideEvent(event);
+    bar_->hide();
+}
+
 void ScrollView::resizeEvent(QResizeEvent* event) {
     QScrollArea::resizeEvent(event);
     placeBar();
@@ -92,8 +110,14 @@ void ScrollView::resizeEvent(QResizeEvent* event) {
 
 void ScrollView::placeBar() {
     const int thickness = Look::current().pixels(metrics::scrollBarWidth);
-    bar_->setGeometry(width() - thickness - 2, 3, thickness, std::max(0, height() - 6));
-    bar_->setVisible(verticalScrollBar()->maximum() > 0);
+    const int room = parentWidget() != nullptr ? parentWidget()->width() - geometry().right() - 1 : 0;
+    const bool isBeside = room >= thickness + 2;
+    QWidget* const place = isBeside ? parentWidget() : this;
+    if (bar_->parentWidget() != place) bar_->setParent(place);
+    const int left = isBeside ? geometry().right() + 1 + (room - thickness) / 2 : width() - thickness - 2;
+    const int top = isBeside ? geometry().top() : 0;
+    bar_->setGeometry(left, top + 3, thickness, std::max(0, height() - 6));
+    bar_->setVisible(isVisibleTo(window()) && verticalScrollBar()->maximum() > 0);
     bar_->raise();
 }
 

@@ -36,8 +36,10 @@ SingleInstance::SingleInstance(const std::string& name) {
     server_ = std::make_unique<QLocalServer>();
     server_->setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(server_.get(), &QLocalServer::newConnection, server_.get(), [this] {
-        while (QLocalSocket* const socket = server_->nextPendingConnection()) socket->deleteLater();
-        if (called_) called_();
+        while (QLocalSocket* const socket = server_->nextPendingConnection()) {
+            socket->deleteLater();
+            if (called_) called_();
+        }
     });
     server_->listen(path);
 }

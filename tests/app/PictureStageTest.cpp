@@ -1,0 +1,39 @@
+#include <gtest/gtest.h>
+#include <memory>
+
+#include "app/PictureStage.h"
+#include "support/PictureApplication.h"
+#include "support/TestDesks.h"
+
+namespace vantrel::app {
+namespace {
+
+class PictureStageTest : public testing::Test {
+  protected:
+    test::PictureApplication application_;
+};
+
+TEST_F(PictureStageTest, BeginsWithEveryMonitorRead) {
+    PictureStage stage(test::usualDesk(), PictureStage::Subject::popover);
+    for (const auto& display : stage.manager().externals())
+        EXPECT_EQ(display->loadState(), model::ExternalDisplay::LoadState::ready);
+}
+
+TEST_F(PictureStageTest, OperatesControlsByTheirNames) {
+    PictureStage stage(test::usualDesk(), PictureStage::Subject::popover);
+    stage.toggle("Video output to Alder", false);
+    stage.press("Turn Output Off");
+    stage.wait(std::chrono::seconds(2));
+    EXPECT_EQ(stage.manager().disabled().size(), 1U);
+}
+
+TEST_F(PictureStageTest, EndsWithNothingLeft) {
+    auto stage = std::make_unique<PictureStage>(test::usualDesk(), PictureStage::Subject::settings);
+    stage.reset();
+    // A second simulated computer can only begin when the first one has ended.
+    PictureStage another(test::usualDesk(), PictureStage::Subject::popover);
+    EXPECT_EQ(another.manager().externals().size(), 2U);
+}
+
+}  // namespace
+}  // namespace vantrel::app
