@@ -1,6 +1,5 @@
 """What a screen reader knows of the programs on a desktop (AT-SPI over D-Bus)."""
 
-
 from gi.repository import Gio, GLib
 
 from screen import Rectangle

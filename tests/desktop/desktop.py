@@ -29,7 +29,6 @@ class Desktop:
         private = {name: self.folder / name for name in ("home", "config", "data", "state", "cache", "run")}
         for folder in private.values():
             folder.mkdir(mode=0o700)
-        bus = private["run"] / "bus"
         self.environment = {
             "PATH": os.environ["PATH"],
             "LANG": "C.UTF-8",
@@ -39,26 +38,27 @@ class Desktop:
             "XDG_STATE_HOME": str(private["state"]),
             "XDG_CACHE_HOME": str(private["cache"]),
             "XDG_RUNTIME_DIR": str(private["run"]),
-            "DBUS_SESSION_BUS_ADDRESS": f"unix:path={bus}",
         }
-        self.environment["DISPLAY"] = self._start_x_server()
-        self.start("dbus-daemon", "--session", "--nofork", "--nopidfile",
-                   "--address", self.environment["DBUS_SESSION_BUS_ADDRESS"])
-        wait_for("the session bus", bus.exists)
+        area = Screen.area
+        display = self._start_and_read("Xvfb", "-nolisten", "tcp", "-noreset",
+                                       "-screen", "0", f"{area.width}x{area.height}x24", "-displayfd")
+        self.environment["DISPLAY"] = f":{display}"
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_read(
+            "dbus-daemon", "--session", "--nofork", "--nopidfile",
+            "--address", f"unix:dir={private['run']}", "--print-address")
         self.screen = Screen(self.environment)
         self.accessibility = Accessibility(self.environment["DBUS_SESSION_BUS_ADDRESS"])
         self.start("openbox")
         wait_for("the window manager", self.screen.has_window_manager)
 
-    def _start_x_server(self):
-        # It looks for a free display itself, and says which when it is ready.
+    def _start_and_read(self, *command):
+        """Starts a server that writes where it is found, once it is ready, to the
+        descriptor whose number ends the command."""
         read, write = os.pipe()
-        area = Screen.area
-        self.start("Xvfb", "-displayfd", str(write), "-nolisten", "tcp", "-noreset",
-                   "-screen", "0", f"{area.width}x{area.height}x24", pass_fds=[write])
+        self.start(*command, str(write), pass_fds=[write])
         os.close(write)
         with os.fdopen(read) as answer:
-            return f":{answer.readline().strip()}"
+            return answer.readline().strip()
 
     def start(self, *command, is_accessible=False, pass_fds=()):
         environment = dict(self.environment)
