@@ -4,6 +4,9 @@
 #include <QAbstractSlider>
 #include <QAccessibleWidget>
 #include <QComboBox>
+#include <QCoreApplication>
+
+#include "ui/qt/SpokenApplication.h"
 
 namespace vantrel::qt {
 namespace {
@@ -72,6 +75,7 @@ class AccessibleSpokenSlider : public AccessibleSpoken, public QAccessibleValueI
 
 // Asked once for each class of the object, from the most particular one.
 QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
+    if (object == QCoreApplication::instance()) return new SpokenApplication;
     auto* const spoken = dynamic_cast<Spoken*>(object);
     auto* const widget = dynamic_cast<QWidget*>(object);
     if (spoken == nullptr || widget == nullptr) return nullptr;
