@@ -9,12 +9,14 @@ import coroutines
 import documents
 import headers
 import layers
+import manual
+import releases
 import seam
 import tested
 import words
 from tree import repository
 
-LINTS = (layers, seam, coroutines, words, headers, tested, documents)
+LINTS = (layers, seam, coroutines, words, headers, tested, documents, manual, releases)
 
 
 def main():
