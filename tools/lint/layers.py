@@ -23,6 +23,7 @@ LIBRARIES = {
     "nlohmann/": "nlohmann_json::nlohmann_json",
     "CLI/": "CLI11::CLI11",
     "utf8proc.h": "PkgConfig::utf8proc",
+    "xcb/": "PkgConfig::xcb",
     "QSvg": "Qt6::Svg",
     "QDBus": "Qt6::DBus",
     "Q": "Qt6::Widgets",

@@ -9,6 +9,7 @@
 #include <QSystemTrayIcon>
 
 #include "ui/qt/DrawingPicture.h"
+#include "ui/qt/EmbeddingTray.h"
 #include "ui/qt/Look.h"
 
 namespace vantrel::qt {
@@ -18,9 +19,9 @@ using namespace std::chrono_literals;
 
 // Of the StatusNotifierItem protocol, which most trays speak.
 const char* const watcherName = "org.kde.StatusNotifierWatcher";
-// Qt finds out once, with the first icon, which protocol the desktop's tray speaks.
-// A desktop that is just starting gets this long to bring its tray.
-constexpr auto trayPatience = 2s;
+// Qt finds out once, with the first icon, which protocol the desktop's tray speaks:
+// so there is none before a tray is there. Only the one kind says that it has come.
+constexpr auto nextLook = 1s;
 // A click that closes the panel by taking its focus reaches the icon after that.
 constexpr auto sameClick = 250ms;
 
@@ -35,20 +36,17 @@ class QtStatusItem::Tray : public QObject {
   public:
     explicit Tray(runtime::MainLoop& loop) : loop_(loop) {
         qApp->installEventFilter(this);
-        if (!QDBusConnection::sessionBus().isConnected() || hasWatcher()) {
+        if (!QDBusConnection::sessionBus().isConnected()) {
             appear();
             return;
         }
         watcher_ = std::make_unique<QDBusServiceWatcher>(watcherName, QDBusConnection::sessionBus(),
                                                          QDBusServiceWatcher::WatchForRegistration);
         QObject::connect(watcher_.get(), &QDBusServiceWatcher::serviceRegistered, this, [this] { appear(); });
-        patience_ = loop_.after(trayPatience, [this] {
-            patience_.reset();
-            appear();
-        });
+        look();
     }
     ~Tray() override {
-        if (patience_) loop_.cancel(*patience_);
+        if (looking_) loop_.cancel(*looking_);
         if (ignoring_) loop_.cancel(*ignoring_);
     }
 
@@ -79,11 +77,19 @@ class QtStatusItem::Tray : public QObject {
     std::function<void()> clicked;
 
   private:
-    // From then on Qt keeps it in every tray that comes.
+    void look() {
+        looking_.reset();
+        if (hasWatcher() || EmbeddingTray::exists()) {
+            appear();
+        } else {
+            looking_ = loop_.after(nextLook, [this] { look(); });
+        }
+    }
+    // From then on Qt keeps it in every tray of that kind that comes.
     void appear() {
         if (icon_) return;
-        if (patience_) loop_.cancel(*patience_);
-        patience_.reset();
+        if (looking_) loop_.cancel(*looking_);
+        looking_.reset();
         icon_ = std::make_unique<QSystemTrayIcon>();
         QObject::connect(icon_.get(), &QSystemTrayIcon::activated, this,
                          [this](QSystemTrayIcon::ActivationReason reason) {
@@ -104,7 +110,7 @@ class QtStatusItem::Tray : public QObject {
     runtime::MainLoop& loop_;
     std::unique_ptr<QDBusServiceWatcher> watcher_;
     std::unique_ptr<QSystemTrayIcon> icon_;
-    std::optional<runtime::MainLoop::TimerID> patience_;
+    std::optional<runtime::MainLoop::TimerID> looking_;
     std::optional<runtime::MainLoop::TimerID> ignoring_;
     ui::Drawing image_;
     QString toolTip_;
