@@ -27,10 +27,16 @@ std::unique_ptr<ui::Component> componentOf(PictureStage::Subject subject,
                                                              });
 }
 
+platform::Platform withLocalizer(const platform::Platform& all, platform::Localizer& localizer) {
+    return {all.scheduler, all.mainLoop,  all.displays, all.registry,  all.functions, all.baseTables,
+            all.defaults,  all.workspace, localizer,    all.loginItem, all.log};
+}
+
 }  // namespace
 
-PictureStage::PictureStage(simulated::Desk desk, Subject subject)
+PictureStage::PictureStage(simulated::Desk desk, Subject subject, platform::Localizer& localizer)
     : simulated_(std::move(desk), time_, loop_),
+      platform_(withLocalizer(simulated_.platform(log_), localizer)),
       manager_(std::make_unique<model::DisplayManager>(platform_)),
       picture_(std::make_unique<qt::PictureView>()),
       component_(componentOf(subject, {*manager_, platform_.localizer, platform_.loginItem})),
@@ -56,8 +62,10 @@ void PictureStage::send(const std::string& name, const ui::Event& event) {
     wait(1ms);
 }
 
+void PictureStage::layOut() { picture_->layOut(picture_->view().fittingSize()); }
+
 bool PictureStage::save(const std::string& path, double ratio) {
-    picture_->layOut(picture_->view().fittingSize());
+    layOut();
     return picture_->save(path, ratio);
 }
 

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "app/NoLog.h"
 #include "model/DisplayManager.h"
@@ -21,8 +22,8 @@ class PictureStage {
   public:
     enum class Subject { popover, settings };
 
-    // Every monitor that answers has been read.
-    PictureStage(simulated::Desk desk, Subject subject);
+    // Every monitor that answers has been read. The localizer outlives the stage.
+    PictureStage(simulated::Desk desk, Subject subject, platform::Localizer& localizer);
     PictureStage(const PictureStage&) = delete;
     PictureStage& operator=(const PictureStage&) = delete;
     ~PictureStage();
@@ -37,6 +38,9 @@ class PictureStage {
     model::DisplayManager& manager() { return *manager_; }
     simulated::SimulatedPlatform& simulated() { return simulated_; }
 
+    // As the views would like to be.
+    void layOut();
+    std::vector<std::string> cutTexts() const { return picture_->cutTexts(); }
     // False when the file can't be written.
     bool save(const std::string& path, double ratio);
 
@@ -47,7 +51,7 @@ class PictureStage {
     runtime::MainLoop loop_{time_};
     simulated::SimulatedPlatform simulated_;
     NoLog log_;
-    platform::Platform platform_ = simulated_.platform(log_);
+    platform::Platform platform_;
     std::unique_ptr<model::DisplayManager> manager_;
     std::unique_ptr<qt::PictureView> picture_;
     std::unique_ptr<ui::Component> component_;

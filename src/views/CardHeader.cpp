@@ -14,7 +14,7 @@ ui::Node cardHeader(CardHeader header) {
         ui::column(0,
                    {
                        ui::text(std::move(header.title), ui::Font::title),
-                       ui::text(std::move(header.subtitle), ui::Font::caption, ui::Tone::secondary),
+                       ui::wrappedText(std::move(header.subtitle), ui::Font::caption, ui::Tone::secondary),
                    }),
         ui::spacer(),
     };

@@ -49,7 +49,7 @@ Node FeatureRow::choice() const {
     if (current != values.end()) picker.selected = static_cast<std::size_t>(current - values.begin());
     return ui::row(8,
                    {
-                       ui::text(name(), Font::callout),
+                       ui::wrappedText(name(), Font::callout),
                        ui::spacer(),
                        Node{std::move(picker)}
                            .onChoose([display = display_, feature = feature_, values](std::size_t option) {
@@ -61,7 +61,7 @@ Node FeatureRow::choice() const {
 }
 
 Node FeatureRow::action() {
-    std::vector<Node> parts{ui::text(name(), Font::callout), ui::spacer()};
+    std::vector<Node> parts{ui::wrappedText(name(), Font::callout), ui::spacer()};
     const auto add = [&](std::string title, std::string key, std::function<void()> action) {
         parts.push_back(ui::button(std::move(title), ui::Button::Style::bordered, Font::callout)
                             .described(name())
@@ -84,7 +84,7 @@ Node FeatureRow::value() const {
     const auto current = feature_->current.get();
     return ui::row(8,
                    {
-                       ui::text(name(), Font::callout),
+                       ui::wrappedText(name(), Font::callout),
                        ui::spacer(),
                        ui::text(current ? environment_.shown(feature_->label(*current)) : std::string(),
                                 Font::callout, ui::Tone::secondary),

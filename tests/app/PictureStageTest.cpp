@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "app/PictureStage.h"
+#include "support/EnglishTexts.h"
 #include "support/PictureApplication.h"
 #include "support/TestDesks.h"
 
@@ -11,16 +12,17 @@ namespace {
 class PictureStageTest : public testing::Test {
   protected:
     test::PictureApplication application_;
+    test::EnglishTexts english_;
 };
 
 TEST_F(PictureStageTest, BeginsWithEveryMonitorRead) {
-    PictureStage stage(test::usualDesk(), PictureStage::Subject::popover);
+    PictureStage stage(test::usualDesk(), PictureStage::Subject::popover, english_);
     for (const auto& display : stage.manager().externals())
         EXPECT_EQ(display->loadState(), model::ExternalDisplay::LoadState::ready);
 }
 
 TEST_F(PictureStageTest, OperatesControlsByTheirNames) {
-    PictureStage stage(test::usualDesk(), PictureStage::Subject::popover);
+    PictureStage stage(test::usualDesk(), PictureStage::Subject::popover, english_);
     stage.toggle("Video output to Alder", false);
     stage.press("Turn Output Off");
     stage.wait(std::chrono::seconds(2));
@@ -28,10 +30,10 @@ TEST_F(PictureStageTest, OperatesControlsByTheirNames) {
 }
 
 TEST_F(PictureStageTest, EndsWithNothingLeft) {
-    auto stage = std::make_unique<PictureStage>(test::usualDesk(), PictureStage::Subject::settings);
+    auto stage = std::make_unique<PictureStage>(test::usualDesk(), PictureStage::Subject::settings, english_);
     stage.reset();
     // A second simulated computer can only begin when the first one has ended.
-    PictureStage another(test::usualDesk(), PictureStage::Subject::popover);
+    PictureStage another(test::usualDesk(), PictureStage::Subject::popover, english_);
     EXPECT_EQ(another.manager().externals().size(), 2U);
 }
 

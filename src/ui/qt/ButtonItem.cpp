@@ -32,7 +32,10 @@ class PushButton : public PaintedButton {
     }
     int minimumWidth() const {
         if (isSymbolOnly()) return naturalWidth();
-        return 2 * padding() + symbolWidth() + title_.minimumWidth();
+        // What is beside it gives way first, unless the title is very long.
+        const int least = Look::current().pixels(metrics::buttonWidthKept);
+        return std::max(std::min(naturalWidth(), least),
+                        2 * padding() + symbolWidth() + title_.minimumWidth());
     }
     int naturalHeight() const {
         const Look& look = Look::current();

@@ -48,6 +48,8 @@ class Item {
     // Can do with less height than it asks for.
     virtual bool canShrink() const { return false; }
     bool reportsSize() const { return node_.layout.reportsSize; }
+    // Whether its text doesn't fit; it is its tool tip then.
+    bool isCut() const { return node_.help.empty() && !widget_->toolTip().isEmpty(); }
     // Whether what is before it in a row takes all the width that there is.
     virtual void setBehindExpanding(bool) {}
     // In the coordinates of the parent's childrenParent().

@@ -53,6 +53,7 @@ namespace metrics {
 inline constexpr int controlHeight = 24;
 inline constexpr int smallControlHeight = 22;
 inline constexpr int controlPadding = 11;
+inline constexpr int buttonWidthKept = 120;
 inline constexpr int controlRadius = 6;
 inline constexpr int borderlessPadding = 6;
 inline constexpr int symbolButtonSide = 24;

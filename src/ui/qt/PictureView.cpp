@@ -63,6 +63,8 @@ void PictureView::layOut(ui::Size size) {
     QCoreApplication::processEvents();
 }
 
+std::vector<std::string> PictureView::cutTexts() const { return parts_->view.cutTexts(); }
+
 bool PictureView::save(const std::string& path, double ratio) {
     QWidget& widget = parts_->view.widget();
     QImage image((QSizeF(widget.size()) * ratio).toSize(), QImage::Format_RGB32);

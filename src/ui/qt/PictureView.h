@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "ui/Size.h"
 #include "ui/View.h"
@@ -25,6 +26,8 @@ class PictureView {
     ui::View& view();
     // Has what was told to the renderer laid out at that size.
     void layOut(ui::Size size);
+    // What is shown only in part there.
+    std::vector<std::string> cutTexts() const;
     // A PNG file with `ratio` pixels for each of the desktop's. False when it can't be
     // written.
     bool save(const std::string& path, double ratio);

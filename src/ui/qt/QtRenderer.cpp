@@ -35,6 +35,14 @@ void QtRenderer::onEvent(std::function<void(ui::ElementID, const ui::Event&)> ha
     stage_.onEvent(std::move(handler));
 }
 
+std::vector<std::string> QtRenderer::cutTexts() const {
+    std::vector<std::string> texts;
+    for (const auto& [element, item] : items_) {
+        if (item->isCut()) texts.push_back(item->widget()->toolTip().toStdString());
+    }
+    return texts;
+}
+
 const Item* QtRenderer::item(ui::ElementID element) const {
     const auto found = items_.find(element);
     return found == items_.end() ? nullptr : found->second;

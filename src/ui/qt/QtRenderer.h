@@ -10,6 +10,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "ui/Renderer.h"
 #include "ui/qt/Item.h"
@@ -39,6 +41,8 @@ class QtRenderer : public ui::Renderer {
     void layOut();
     // The desktop's font or palette has changed.
     void refresh();
+    // Texts that were cut because there is no room for them.
+    std::vector<std::string> cutTexts() const;
     // Null when there is no such node.
     const Item* item(ui::ElementID element) const;
 

@@ -21,6 +21,7 @@ class QtView : public ui::View {
     ui::Size fittingSize() const override;
 
     QWidget& widget();
+    std::vector<std::string> cutTexts() const { return renderer_->cutTexts(); }
     QSize fittingPixels() const { return renderer_->fittingSize(); }
     void onFinish(std::function<void()> action) { renderer_->onFinish(std::move(action)); }
     const Item* item(ui::ElementID element) const { return renderer_->item(element); }
