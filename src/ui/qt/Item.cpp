@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QTextDocument>
 #include <algorithm>
+#include <utility>
 
 #include "runtime/Fatal.h"
 #include "ui/qt/Look.h"
@@ -91,6 +92,11 @@ void Item::removeChild(ui::ElementID element) {
 }
 
 WidthRange Item::widths() const {
+    if (std::exchange(measuredWidths_, stage_.measuring()) != stage_.measuring()) widths_ = measureWidths();
+    return widths_;
+}
+
+WidthRange Item::measureWidths() const {
     const Look& look = Look::current();
     if (node_.layout.width > 0) return {look.pixels(node_.layout.width), look.pixels(node_.layout.width)};
     WidthRange content = contentWidths();
@@ -100,6 +106,15 @@ WidthRange Item::widths() const {
 }
 
 int Item::height(int width) const {
+    if (measuredHeight_ != stage_.measuring() || heightsWidth_ != width) {
+        height_ = measureHeight(width);
+        measuredHeight_ = stage_.measuring();
+        heightsWidth_ = width;
+    }
+    return height_;
+}
+
+int Item::measureHeight(int width) const {
     const Look& look = Look::current();
     if (node_.layout.height > 0) return look.pixels(node_.layout.height);
     const int inside = std::max(0, width - 2 * look.pixels(node_.layout.horizontalPadding));

@@ -7,6 +7,7 @@
 
 #include <QRect>
 #include <QWidget>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -77,12 +78,21 @@ class Item {
   private:
     struct ContextMenu;
 
+    WidthRange measureWidths() const;
+    int measureHeight(int width) const;
+
     Stage& stage_;
     ui::ElementID element_;
     QWidget* widget_;
     // Without children.
     ui::Node node_;
     QRect geometry_;
+    // Each container asks for them more than once.
+    mutable std::uint64_t measuredWidths_ = 0;
+    mutable WidthRange widths_;
+    mutable std::uint64_t measuredHeight_ = 0;
+    mutable int heightsWidth_ = 0;
+    mutable int height_ = 0;
     ContextMenu* contextMenu_ = nullptr;
     std::vector<std::unique_ptr<Item>> children_;
 };

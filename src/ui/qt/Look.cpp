@@ -113,14 +113,14 @@ Look::Look(const QPalette& palette, const QFont& base) : font_(base) {
 const Look& Look::current() {
     struct Made {
         qint64 palette;
-        QString font;
+        QFont font;
         Look look;
     };
     static std::optional<Made> made;
     const QPalette palette = QApplication::palette();
-    const QString font = QApplication::font().key();
+    const QFont font = QApplication::font();
     if (!made || made->palette != palette.cacheKey() || made->font != font) {
-        made.emplace(Made{palette.cacheKey(), font, Look(palette, QApplication::font())});
+        made.emplace(Made{palette.cacheKey(), font, Look(palette, font)});
     }
     return made->look;
 }

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QWidget>
+#include <cstdint>
 #include <functional>
 
 #include "ui/Event.h"
@@ -18,7 +19,10 @@ class Stage {
     // While one exists, what controls report is the program's doing.
     class Telling {
       public:
-        explicit Telling(Stage& stage) : stage_(stage) { ++stage_.telling_; }
+        explicit Telling(Stage& stage) : stage_(stage) {
+            ++stage_.telling_;
+            stage_.measureAnew();
+        }
         Telling(const Telling&) = delete;
         Telling& operator=(const Telling&) = delete;
         ~Telling() { --stage_.telling_; }
@@ -35,6 +39,9 @@ class Stage {
         handler_ = std::move(handler);
     }
     void send(ui::ElementID element, const ui::Event& event);
+    // Sizes that were found out hold until something changes.
+    std::uint64_t measuring() const { return measuring_; }
+    void measureAnew() { ++measuring_; }
     // Takes a widget off the screen. It may be at work further up the stack, so it
     // is destroyed later.
     void bury(QWidget* widget);
@@ -42,6 +49,7 @@ class Stage {
   private:
     std::function<void(ui::ElementID, const ui::Event&)> handler_;
     int telling_ = 0;
+    std::uint64_t measuring_ = 1;
     QWidget buried_;
 };
 
