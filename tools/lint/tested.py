@@ -15,6 +15,7 @@ UNTESTED = {
     "src/ui/qt/OptionMenu.cpp": "the base of SymbolPickerItem and MenuItem, whose tests open it",
     "src/ui/qt/PaintedButton.cpp": "the base of ButtonItem and others, whose tests press it in every way",
     "src/ui/qt/Painting.cpp": "strokes, which the gallery's pictures show",
+    "src/ui/qt/Palettes.cpp": "colours, which LookTest judges",
     "src/ui/qt/QtView.cpp": "every test of an item shows it in one",
     "src/ui/qt/ScrollView.cpp": "the widget of ScrollItem, whose test scrolls it",
     "src/ui/qt/SliderWidget.cpp": "the widget of SliderItem, whose test moves it in every way",
