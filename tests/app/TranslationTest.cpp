@@ -6,8 +6,8 @@
 
 #include "app/PictureStage.h"
 #include "platform/simulated/ShippedDesks.h"
-#include "support/PictureApplication.h"
 #include "support/LongTexts.h"
+#include "support/PictureApplication.h"
 
 namespace vantrel::app {
 namespace {
