@@ -7,7 +7,6 @@
 #include "app/ConsoleLog.h"
 #include "app/ExitStatus.h"
 #include "app/Interface.h"
-#include "app/NoLog.h"
 #include "app/Pictures.h"
 #include "platform/posix/FileDefaults.h"
 #include "platform/posix/PosixFileSystem.h"
@@ -40,12 +39,6 @@ std::unique_ptr<platform::Defaults> makeDefaults(const CommandLine& line, posix:
     return std::make_unique<posix::FileDefaults>(files, *folder, log);
 }
 
-std::unique_ptr<platform::LogSink> makeLog(const CommandLine& line, const runtime::Clock& clock,
-                                           std::ostream& errors) {
-    if (line.log) return std::make_unique<ConsoleLog>(clock, errors, *line.log);
-    return std::make_unique<NoLog>();
-}
-
 }  // namespace
 
 int Interface::run(const CommandLine& line, simulated::Desk desk, std::ostream& errors) {
@@ -62,7 +55,7 @@ int Interface::run(const CommandLine& line, simulated::Desk desk, std::ostream& 
     runtime::RealScheduler real;
     qt::QtScheduler scheduler(real);
     runtime::MainLoop loop(scheduler);
-    const auto log = makeLog(line, scheduler, errors);
+    const auto log = ConsoleLog::from(line.log, scheduler, errors);
     posix::PosixFileSystem files;
     const auto defaults = makeDefaults(line, files, *log);
     simulated::SimulatedPlatform simulated(std::move(desk), scheduler, loop);

@@ -12,7 +12,6 @@
 #include "app/ConsoleLog.h"
 #include "app/ExitStatus.h"
 #include "app/Interface.h"
-#include "app/NoLog.h"
 #include "app/ShippedStories.h"
 #include "app/StoryCheck.h"
 #include "app/StoryPlayer.h"
@@ -68,15 +67,9 @@ std::unique_ptr<runtime::Scheduler> makeScheduler(const CommandLine& line) {
     return std::make_unique<runtime::RealScheduler>();
 }
 
-std::unique_ptr<platform::LogSink> makeLog(const CommandLine& line, const runtime::Clock& clock,
-                                           std::ostream& errors) {
-    if (line.log) return std::make_unique<ConsoleLog>(clock, errors, *line.log);
-    return std::make_unique<NoLog>();
-}
-
 void probe(const CommandLine& line, simulated::Desk desk, std::ostream& output, std::ostream& errors) {
     const auto scheduler = makeScheduler(line);
-    const auto log = makeLog(line, *scheduler, errors);
+    const auto log = ConsoleLog::from(line.log, *scheduler, errors);
     runtime::MainLoop loop(*scheduler);
     simulated::SimulatedPlatform simulated(std::move(desk), *scheduler, loop);
     platform::Platform platform = simulated.platform(*log);

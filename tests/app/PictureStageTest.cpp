@@ -2,7 +2,7 @@
 #include <memory>
 
 #include "app/PictureStage.h"
-#include "support/EnglishTexts.h"
+#include "platform/simulated/EnglishLocalizer.h"
 #include "support/PictureApplication.h"
 #include "support/TestDesks.h"
 
@@ -12,7 +12,7 @@ namespace {
 class PictureStageTest : public testing::Test {
   protected:
     test::PictureApplication application_;
-    test::EnglishTexts english_;
+    simulated::EnglishLocalizer english_;
 };
 
 TEST_F(PictureStageTest, BeginsWithEveryMonitorRead) {
