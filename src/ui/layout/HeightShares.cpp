@@ -1,8 +1,8 @@
-#include "ui/qt/HeightShares.h"
+#include "ui/layout/HeightShares.h"
 
 #include <algorithm>
 
-namespace vantrel::qt {
+namespace vantrel::layout {
 
 std::vector<int> heightShares(const std::vector<HeightWish>& wishes, int available) {
     std::vector<int> heights;
@@ -26,4 +26,4 @@ std::vector<int> heightShares(const std::vector<HeightWish>& wishes, int availab
     return heights;
 }
 
-}  // namespace vantrel::qt
+}  // namespace vantrel::layout

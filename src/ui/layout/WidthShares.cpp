@@ -1,9 +1,9 @@
-#include "ui/qt/WidthShares.h"
+#include "ui/layout/WidthShares.h"
 
 #include <algorithm>
 #include <numeric>
 
-namespace vantrel::qt {
+namespace vantrel::layout {
 namespace {
 
 int sum(const std::vector<int>& widths) { return std::accumulate(widths.begin(), widths.end(), 0); }
@@ -59,4 +59,4 @@ std::vector<int> widthShares(const std::vector<WidthWish>& wishes, int available
     return widths;
 }
 
-}  // namespace vantrel::qt
+}  // namespace vantrel::layout

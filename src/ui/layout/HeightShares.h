@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace vantrel::qt {
+namespace vantrel::layout {
 
 struct HeightWish {
     int height = 0;
@@ -15,4 +15,4 @@ struct HeightWish {
 
 std::vector<int> heightShares(const std::vector<HeightWish>& wishes, int available);
 
-}  // namespace vantrel::qt
+}  // namespace vantrel::layout

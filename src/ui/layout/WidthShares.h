@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace vantrel::qt {
+namespace vantrel::layout {
 
 struct WidthRange {
     int minimum = 0;
@@ -22,4 +22,4 @@ struct WidthWish {
 // A width for each wish, in order. Never below a minimum, even if that is too much.
 std::vector<int> widthShares(const std::vector<WidthWish>& wishes, int available);
 
-}  // namespace vantrel::qt
+}  // namespace vantrel::layout
