@@ -13,9 +13,9 @@
 #include "platform/posix/StateFolder.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "runtime/RealScheduler.h"
+#include "runtime/WakingScheduler.h"
 #include "ui/qt/QtApplication.h"
 #include "ui/qt/QtLoop.h"
-#include "ui/qt/QtScheduler.h"
 #include "ui/qt/QtToolkit.h"
 #include "ui/qt/SingleInstance.h"
 
@@ -53,7 +53,7 @@ int Interface::run(const CommandLine& line, simulated::Desk desk, std::ostream& 
     if (!instance.isFirst()) return ExitStatus::success;
 
     runtime::RealScheduler real;
-    qt::QtScheduler scheduler(real);
+    runtime::WakingScheduler scheduler(real);
     runtime::MainLoop loop(scheduler);
     const auto log = ConsoleLog::from(line.log, scheduler, errors);
     posix::PosixFileSystem files;

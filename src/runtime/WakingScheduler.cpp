@@ -1,11 +1,11 @@
-#include "ui/qt/QtScheduler.h"
+#include "runtime/WakingScheduler.h"
 
 #include <mutex>
 #include <utility>
 
-namespace vantrel::qt {
+namespace vantrel::runtime {
 
-struct QtScheduler::Waker {
+struct WakingScheduler::Waker {
     std::mutex mutex;
     std::function<void()> wake;
 };
@@ -13,9 +13,9 @@ struct QtScheduler::Waker {
 namespace {
 
 template <class Waker>
-class WakingGate : public runtime::Gate {
+class WakingGate : public Gate {
   public:
-    WakingGate(std::unique_ptr<runtime::Gate> inner, std::shared_ptr<Waker> waker)
+    WakingGate(std::unique_ptr<Gate> inner, std::shared_ptr<Waker> waker)
         : inner_(std::move(inner)), waker_(std::move(waker)) {}
 
     void open() override {
@@ -25,26 +25,24 @@ class WakingGate : public runtime::Gate {
         const std::lock_guard lock(waker->mutex);
         if (waker->wake) waker->wake();
     }
-    runtime::Wake wait(std::optional<runtime::MonotonicTime> deadline) override {
-        return inner_->wait(deadline);
-    }
+    Wake wait(std::optional<MonotonicTime> deadline) override { return inner_->wait(deadline); }
 
   private:
-    std::unique_ptr<runtime::Gate> inner_;
+    std::unique_ptr<Gate> inner_;
     std::shared_ptr<Waker> waker_;
 };
 
 }  // namespace
 
-QtScheduler::QtScheduler(runtime::Scheduler& inner) : inner_(inner), waker_(std::make_shared<Waker>()) {}
+WakingScheduler::WakingScheduler(Scheduler& inner) : inner_(inner), waker_(std::make_shared<Waker>()) {}
 
-void QtScheduler::onOpen(std::function<void()> wake) {
+void WakingScheduler::onOpen(std::function<void()> wake) {
     const std::lock_guard lock(waker_->mutex);
     waker_->wake = std::move(wake);
 }
 
-std::unique_ptr<runtime::Gate> QtScheduler::makeGate() {
+std::unique_ptr<Gate> WakingScheduler::makeGate() {
     return std::make_unique<WakingGate<Waker>>(inner_.makeGate(), waker_);
 }
 
-}  // namespace vantrel::qt
+}  // namespace vantrel::runtime
