@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ui/qt/HeightShares.h"
+#include "ui/layout/HeightShares.h"
 
-namespace vantrel::qt {
+namespace vantrel::layout {
 namespace {
 
 using testing::ElementsAre;
@@ -23,4 +23,4 @@ TEST(HeightShares, TakesWhatIsMissingFromThoseThatCanShrink) {
 }
 
 }  // namespace
-}  // namespace vantrel::qt
+}  // namespace vantrel::layout

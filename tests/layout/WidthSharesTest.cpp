@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ui/qt/WidthShares.h"
+#include "ui/layout/WidthShares.h"
 
-namespace vantrel::qt {
+namespace vantrel::layout {
 namespace {
 
 using testing::ElementsAre;
@@ -31,4 +31,4 @@ TEST(WidthShares, GoesBelowNoMinimum) {
 TEST(WidthShares, HasNothingToShareAmongNone) { EXPECT_TRUE(widthShares({}, 100).empty()); }
 
 }  // namespace
-}  // namespace vantrel::qt
+}  // namespace vantrel::layout

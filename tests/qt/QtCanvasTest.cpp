@@ -3,7 +3,7 @@
 
 #include "qt/SampleTrees.h"
 #include "qt/ViewBench.h"
-#include "ui/qt/QtRenderer.h"
+#include "ui/qt/QtCanvas.h"
 
 namespace vantrel::qt {
 namespace {
@@ -29,7 +29,7 @@ std::vector<std::string> tabOrder(ViewBench& bench, std::size_t count) {
     return keys;
 }
 
-TEST(QtRenderer, KeepsTheKeyboardAcrossUpdatesAndMoves) {
+TEST(QtCanvas, KeepsTheKeyboardAcrossUpdatesAndMoves) {
     ViewBench bench(buttons({"a", "b", "c"}));
     bench.at("b").setFocus();
     bench.show(buttons({"new", "c", "b", "a"}));
@@ -39,13 +39,13 @@ TEST(QtRenderer, KeepsTheKeyboardAcrossUpdatesAndMoves) {
     EXPECT_TRUE(bench.at("b").hasFocus());
 }
 
-TEST(QtRenderer, LetsTheKeyboardGoThroughTheTreeInItsOrder) {
+TEST(QtCanvas, LetsTheKeyboardGoThroughTheTreeInItsOrder) {
     ViewBench bench(buttons({"a", "c"}));
     bench.show(buttons({"d", "a", "b", "c"}));
     EXPECT_THAT(tabOrder(bench, 4), testing::ElementsAre("d", "a", "b", "c"));
 }
 
-TEST(QtRenderer, ShowsTheTreeInItsOrderToAssistiveTechnology) {
+TEST(QtCanvas, ShowsTheTreeInItsOrderToAssistiveTechnology) {
     ViewBench bench(buttons({"a", "c"}).key("column"));
     bench.show(buttons({"d", "a", "b", "c"}).key("column"));
     auto* const column = QAccessible::queryAccessibleInterface(&bench.at("column"));
@@ -56,20 +56,7 @@ TEST(QtRenderer, ShowsTheTreeInItsOrderToAssistiveTechnology) {
     EXPECT_THAT(names, testing::ElementsAre("d", "a", "b", "c"));
 }
 
-TEST(QtRenderer, ReportsTheSizeThatTheWholeWouldLikeToHaveOncePerChange) {
-    std::vector<Size> sizes;
-    const auto tree = [&](int height) {
-        return column(0, {image("display").width(20).height(height)}).width(340).onResize([&](Size size) {
-            sizes.push_back(size);
-        });
-    };
-    ViewBench bench(tree(100), {340, 50});
-    bench.show(tree(100));
-    bench.show(tree(160));
-    EXPECT_THAT(sizes, testing::ElementsAre(Size{340, 100}, Size{340, 160}));
-}
-
-TEST(QtRenderer, LaysItselfOutAgainForAnotherFont) {
+TEST(QtCanvas, LaysItselfOutAgainForAnotherFont) {
     ViewBench bench(column(0, {text("Brightness").key("text")}));
     const int before = bench.place("text").height();
     const QFont font = QApplication::font();
@@ -81,14 +68,7 @@ TEST(QtRenderer, LaysItselfOutAgainForAnotherFont) {
     QApplication::setFont(font);
 }
 
-TEST(QtRenderer, EnablesAndDisablesWhatTheNodeSays) {
-    ViewBench bench(column(0, {button("Try Again").enabled(false).key("again")}));
-    EXPECT_FALSE(bench.at("again").isEnabled());
-    bench.show(column(0, {button("Try Again").key("again")}));
-    EXPECT_TRUE(bench.at("again").isEnabled());
-}
-
-TEST(QtRenderer, SurvivesBeingToldOfEveryKindOfNodeAgainAndAgain) {
+TEST(QtCanvas, SurvivesBeingToldOfEveryKindOfNodeAgainAndAgain) {
     ViewBench bench(column(0, {samplePopover(), sampleForm()}));
     for (int round = 0; round < 3; ++round) {
         bench.show(column(0, {sampleForm()}));
@@ -96,6 +76,26 @@ TEST(QtRenderer, SurvivesBeingToldOfEveryKindOfNodeAgainAndAgain) {
         bench.show(column(0, {}));
     }
     EXPECT_EQ(bench.window().findChild<QWidget*>("form"), nullptr);
+}
+
+TEST(QtCanvas, DoesLaterWhatIsAskedFor) {
+    QWidget widget;
+    QtCanvas canvas(widget);
+    bool isDone = false;
+    canvas.later([&] { isDone = true; });
+    EXPECT_FALSE(isDone);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(isDone);
+}
+
+TEST(QtCanvas, DoesNothingLaterWhenItsWidgetIsGone) {
+    bool isDone = false;
+    {
+        QWidget widget;
+        QtCanvas(widget).later([&] { isDone = true; });
+    }
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isDone);
 }
 
 }  // namespace
