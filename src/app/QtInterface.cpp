@@ -10,9 +10,9 @@
 #include "app/Pictures.h"
 #include "app/ProgramLog.h"
 #include "runtime/RealScheduler.h"
+#include "runtime/WakingScheduler.h"
 #include "ui/qt/QtApplication.h"
 #include "ui/qt/QtLoop.h"
-#include "ui/qt/QtScheduler.h"
 #include "ui/qt/QtToolkit.h"
 #include "ui/qt/SingleInstance.h"
 
@@ -41,7 +41,7 @@ int Interface::run(const CommandLine& line, std::optional<simulated::Desk> desk,
     if (!instance.isFirst()) return ExitStatus::success;
 
     runtime::RealScheduler real;
-    qt::QtScheduler scheduler(real);
+    runtime::WakingScheduler scheduler(real);
     runtime::MainLoop loop(scheduler);
     const auto computer = Computers::make(line, std::move(desk), Computers::Settings::kept, scheduler, loop);
     ProgramLog log(computer->systemLog(), line.log, scheduler, errors);
