@@ -1,0 +1,36 @@
+// Stand-in for <AppKit/AppKit.h>: the part of it that a menu-bar program with native views may
+// use, declared from the documentation. Less than the real one on purpose.
+#pragma once
+#import <Foundation/Foundation.h>
+#import <AppKit/AppKitDefines.h>
+#import <AppKit/NSColor.h>
+#import <AppKit/NSFont.h>
+#import <AppKit/NSAppearance.h>
+#import <AppKit/NSGraphics.h>
+#import <AppKit/NSImage.h>
+#import <AppKit/NSEvent.h>
+#import <AppKit/NSAccessibility.h>
+#import <AppKit/NSResponder.h>
+#import <AppKit/NSLayoutConstraint.h>
+#import <AppKit/NSView.h>
+#import <AppKit/NSText.h>
+#import <AppKit/NSCell.h>
+#import <AppKit/NSControl.h>
+#import <AppKit/NSMenu.h>
+#import <AppKit/NSButton.h>
+#import <AppKit/NSSlider.h>
+#import <AppKit/NSTextField.h>
+#import <AppKit/NSImageView.h>
+#import <AppKit/NSScrollView.h>
+#import <AppKit/NSBox.h>
+#import <AppKit/NSStackView.h>
+#import <AppKit/NSGestureRecognizer.h>
+#import <AppKit/NSAnimationContext.h>
+#import <AppKit/NSScreen.h>
+#import <AppKit/NSWindow.h>
+#import <AppKit/NSViewController.h>
+#import <AppKit/NSPopover.h>
+#import <AppKit/NSStatusBar.h>
+#import <AppKit/NSAlert.h>
+#import <AppKit/NSWorkspace.h>
+#import <AppKit/NSApplication.h>
