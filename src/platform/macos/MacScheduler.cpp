@@ -1,0 +1,34 @@
+#include "platform/macos/MacScheduler.h"
+
+#include <cstddef>
+#include <pthread.h>
+#include <pthread/qos.h>
+#include <utility>
+
+namespace vantrel::macos {
+namespace {
+
+// With the NUL at its end a name takes 64 bytes; a longer one is refused.
+constexpr std::size_t longestName = 63;
+
+qos_class_t classOf(runtime::QualityOfService quality) {
+    switch (quality) {
+        case runtime::QualityOfService::userInitiated: return QOS_CLASS_USER_INITIATED;
+    }
+    return QOS_CLASS_DEFAULT;
+}
+
+}  // namespace
+
+void MacScheduler::startThread(std::string name, runtime::QualityOfService quality,
+                               std::function<void()> body) {
+    const std::string shortName = name.substr(0, longestName);
+    // Only the thread itself can be given either.
+    inner_.startThread(std::move(name), quality, [shortName, quality, body = std::move(body)] {
+        pthread_setname_np(shortName.c_str());
+        pthread_set_qos_class_self_np(classOf(quality), 0);
+        body();
+    });
+}
+
+}  // namespace vantrel::macos
