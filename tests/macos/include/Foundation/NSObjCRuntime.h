@@ -8,6 +8,10 @@
 #include <stdint.h>
 #include <TargetConditionals.h>
 #include <os/availability.h>
+#ifndef API_DEPRECATED
+#define STANDIN_DEPRECATED_macos(from, to) macos, introduced = from, deprecated = to
+#define API_DEPRECATED(text, platform) __attribute__((availability(STANDIN_DEPRECATED_##platform, message = text)))
+#endif
 
 #ifdef __cplusplus
 #define FOUNDATION_EXTERN extern "C"

@@ -1,0 +1,112 @@
+"""The symbols and classes that the program may link, tests/macos/allowed-symbols.txt:
+
+    # a comment
+    [AppKit]
+    class NSView
+    NSZeroRect
+
+A section is a framework, or a library if its name begins with lib; a name is written as
+in C. C++'s own library is not listed: its symbols are taken from libc++."""
+
+import pathlib
+import re
+import subprocess
+from typing import NamedTuple
+
+# Functions of the system that no header offers. The program finds them at run time; one
+# that is linked would keep it from starting where the function is missing.
+PRIVATE = re.compile(r"^_*(?:IOAVService|CGS[A-Z]|SLS[A-Z]|DisplayServices|CoreDisplay_|CGVirtualDisplay|IOAV)")
+CPLUSPLUS = re.compile(r"^__Z|^___cxa_|^___gxx_personality|^___clang_call_terminate|^__Unwind_")
+CLASS = "_OBJC_CLASS_$_"
+METACLASS = "_OBJC_METACLASS_$_"
+LIBCXX = ("/usr/lib/llvm-16/lib/libc++.so.1", "/usr/lib/llvm-16/lib/libc++abi.so.1")
+TARGETS = "[ arm64-macos ]"
+
+
+class Wrong(Exception):
+    """The list can't be read."""
+
+
+class Symbol(NamedTuple):
+    owner: str
+    name: str  # as the linker has it
+
+
+def parse(path):
+    """Symbol -> line"""
+    found = {}
+    owner = ""
+    for number, line in enumerate(pathlib.Path(path).read_text(encoding="utf-8").splitlines(), 1):
+        words = line.split("#")[0].split()
+        if not words:
+            continue
+        if len(words) == 1 and words[0].startswith("["):
+            owner = words[0].strip("[]")
+            continue
+        if not owner or len(words) > 2 or (len(words) == 2 and words[0] != "class"):
+            raise Wrong(f"{path}:{number}: neither a [section] nor a symbol of one: {line}")
+        symbol = Symbol(owner, (CLASS if len(words) == 2 else "_") + words[-1])
+        if PRIVATE.match(symbol.name.removeprefix(CLASS)):
+            raise Wrong(f"{path}:{number}: private, must not be linked: {words[-1]}")
+        if any(other.name == symbol.name for other in found):
+            raise Wrong(f"{path}:{number}: twice: {words[-1]}")
+        found[symbol] = number
+    return found
+
+
+def _nm(*arguments):
+    return subprocess.run(["llvm-nm-16", *map(str, arguments)], check=True, capture_output=True, text=True).stdout
+
+
+def names(*arguments):
+    return {line.split()[-1].split("@")[0] for line in _nm("-j", *arguments).splitlines() if line.strip() and not line.endswith(":")}
+
+
+def undefined(*files):
+    """What the files need that none of them has; a metaclass counts as its class."""
+    needed = names("--undefined-only", *files) - names("--defined-only", *files)
+    return {CLASS + name.removeprefix(METACLASS) if name.startswith(METACLASS) else name for name in needed}
+
+
+def shown(name):
+    return "class " + name.removeprefix(CLASS) if name.startswith(CLASS) else name.removeprefix("_")
+
+
+def findings(needed, allowed, path, owners=None):
+    """What is linked without being listed, listed without being linked (of the owners), or private."""
+    listed = {symbol.name for symbol in allowed}
+    for name in sorted(needed):
+        if PRIVATE.match(name.removeprefix(CLASS)):
+            yield f"private, must not be linked: {shown(name)}"
+        elif name not in listed and not CPLUSPLUS.match(name):
+            yield f"not in {path}: {shown(name)}"
+    for symbol, line in allowed.items():
+        if symbol.name not in needed and (owners is None or symbol.owner in owners):
+            yield f"{path}:{line}: listed, but not linked: {shown(symbol.name)}"
+
+
+def _stub(path, install_name, symbols):
+    path.parent.mkdir(parents=True, exist_ok=True)
+    plain = sorted(name for name in symbols if not name.startswith(CLASS))
+    classes = sorted(name.removeprefix(CLASS) for name in symbols if name.startswith(CLASS))
+    text = f"--- !tapi-tbd\ntbd-version: 4\ntargets: {TARGETS}\ninstall-name: '{install_name}'\nexports:\n  - targets: {TARGETS}\n"
+    if plain:
+        text += "    symbols: [ " + ", ".join(f"'{name}'" for name in plain) + " ]\n"
+    if classes:
+        text += "    objc-classes: [ " + ", ".join(classes) + " ]\n"
+    path.write_text(text + "...\n", encoding="utf-8")
+
+
+def write_stubs(folder, allowed):
+    """A text stub per section, for ld64.lld to link with."""
+    folder = pathlib.Path(folder)
+    owned = {"libSystem": {"dyld_stub_binder"}, "libobjc": {"__objc_empty_cache"}, "libcompiler-rt": {"_standin"}}
+    owned["libc++"] = {"_" + name for library in LIBCXX for name in names("-D", "--defined-only", library)}
+    for symbol in allowed:
+        owned.setdefault(symbol.owner, set()).add(symbol.name)
+    for owner, symbols in owned.items():
+        if owner.startswith("lib"):
+            _stub(folder / f"{owner}.tbd", f"/usr/lib/{owner}.dylib", symbols)
+        else:
+            install_name = f"/System/Library/Frameworks/{owner}.framework/{owner}"
+            _stub(folder / f"{owner}.framework/{owner}.tbd", install_name, symbols)
