@@ -5,7 +5,6 @@ analyze.py FILE-OR-FOLDER...
 
 Fails if it warns of anything."""
 
-import argparse
 import sys
 
 import compiler
@@ -23,19 +22,9 @@ FLAGS = (
 )
 
 
-def check(path, build):
-    passes, output = runner.run(compiler.command(path, build, "--analyze", *FLAGS))
-    # It warns with status 0.
-    return passes and not output, output
-
-
-def main():
-    arguments = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    arguments.add_argument("paths", nargs="+", metavar="FILE-OR-FOLDER")
-    arguments.add_argument("--build", default=compiler.default_build())
-    chosen = arguments.parse_args()
-    return runner.report("analysis", check, chosen.paths, chosen.build)
+def check(path, build, *more):
+    return runner.compile(compiler.command(path, build, "--analyze", *FLAGS, *more), path, build, "analysis")
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(runner.main("analysis", __doc__, check))

@@ -76,6 +76,12 @@ def language_flags(path):
     return ["-x", "c++", "-std=c++20"]
 
 
+def place(path, build, kind):
+    """Where a check keeps what belongs to a source."""
+    path = pathlib.Path(path).resolve()
+    return pathlib.Path(build) / kind / (path.relative_to(ROOT) if path.is_relative_to(ROOT) else path.name)
+
+
 def command(path, build, *mode):
     generated = pathlib.Path(build) / "generated"
     return [CLANG, *mode, *language_flags(path), *platform_flags(build), "-fno-caret-diagnostics",

@@ -16,7 +16,9 @@ from typing import NamedTuple
 # Functions of the system that no header offers. The program finds them at run time; one
 # that is linked would keep it from starting where the function is missing.
 PRIVATE = re.compile(r"^_*(?:IOAVService|CGS[A-Z]|SLS[A-Z]|DisplayServices|CoreDisplay_|CGVirtualDisplay|IOAV)")
-CPLUSPLUS = re.compile(r"^__Z|^___cxa_|^___gxx_personality|^___clang_call_terminate|^__Unwind_")
+# What the rest of the program links too.
+SHARED = {"libSystem", "libutf8proc"}
+CPLUSPLUS = re.compile(r"^___dso_handle$|^__Z|^___cxa_|^___gxx_personality|^___clang_call_terminate|^__Unwind_")
 CLASS = "_OBJC_CLASS_$_"
 METACLASS = "_OBJC_METACLASS_$_"
 LIBCXX = ("/usr/lib/llvm-16/lib/libc++.so.1", "/usr/lib/llvm-16/lib/libc++abi.so.1")

@@ -1,5 +1,6 @@
 // Points, sizes, rectangles, insets and ranges.
 #pragma once
+#include <CoreFoundation/CFCGTypes.h>
 #import <Foundation/NSObjCRuntime.h>
 
 NS_ASSUME_NONNULL_BEGIN
