@@ -23,11 +23,12 @@ def build(source, folder, allowed, extra=()):
     """(passes, what CMake printed)"""
     configure = ["cmake", "-G", "Ninja", "-S", str(source), "-B", str(folder),
                  "--toolchain", str(compiler.ROOT / "tools/macos/toolchain.cmake"),
-                 f"-DVANTREL_ALLOWED_SYMBOLS={allowed}", "-DVANTREL_TESTS=OFF", "-DCMAKE_BUILD_TYPE=Debug", *extra]
+                 f"-DVANTREL_ALLOWED_SYMBOLS={allowed}", "-DVANTREL_TESTS=OFF", *extra]
     passes, output = runner.run(configure)
     if not passes:
         return passes, output
-    return runner.run(["cmake", "--build", str(folder), "--parallel", str(os.cpu_count())])
+    # All that is wrong, not only the first of it.
+    return runner.run(["cmake", "--build", str(folder), "--parallel", str(os.cpu_count()), "--", "--quiet", "-k", "0"])
 
 
 def inspect(bundle, allowed):
@@ -64,7 +65,7 @@ def _inspect_binary(binary):
 def main():
     arguments = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     arguments.add_argument("--source", type=pathlib.Path, default=compiler.ROOT)
-    arguments.add_argument("--build", type=pathlib.Path, default=compiler.default_build())
+    arguments.add_argument("--build", type=pathlib.Path, default=compiler.ROOT / "build/macos-check")
     arguments.add_argument("--allowed", type=pathlib.Path, default=compiler.ROOT / "tests/macos/allowed-symbols.txt")
     arguments.add_argument("--app", default="Vantrel.app")
     chosen = arguments.parse_args()

@@ -31,7 +31,7 @@ def main():
     folder, allowed = map(pathlib.Path, sys.argv[1:])
     compiler.require("llvm-nm-16", "ld64.lld-16")
     symbols.write_stubs(folder / "stubs", symbols.parse(allowed))
-    include = compiler.shared_headers(folder / "include")
+    include = compiler.shared_headers(folder / "macos/include")
     packages = folder / "packages"
     packages.mkdir(exist_ok=True)
     for name, (target, version) in PACKAGES.items():

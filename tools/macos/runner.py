@@ -67,7 +67,7 @@ def each(check, paths, build):
 def arguments(documentation):
     parser = argparse.ArgumentParser(description=documentation, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("paths", nargs="+", metavar="FILE-OR-FOLDER")
-    parser.add_argument("--build", default=compiler.default_build(), help="where to keep what was made")
+    parser.add_argument("--build", default=compiler.BUILD, help="the folder of a build, build/dev by default")
     return parser
 
 
