@@ -78,6 +78,13 @@ class LinkCheckTest(unittest.TestCase):
             self.assertTrue(passes, output)
             self.assertIn("minimum version 14.0", "\n".join(link_check.inspect(pathlib.Path(folder) / "Sample.app", LIST)))
 
+    def test_objects_that_nobody_counts_are_found(self):
+        self.assertEqual(list(link_check.uncounted(self.folder)), [])
+        with tempfile.TemporaryDirectory() as folder:
+            link_check.build(SAMPLE, folder, LIST, ["-DSAMPLE_COUNTED=OFF"])
+            (reason,) = link_check.uncounted(pathlib.Path(folder))
+            self.assertIn("main.mm is compiled without -fobjc-arc", reason)
+
     def test_what_is_not_listed_can_not_be_linked(self):
         with tempfile.TemporaryDirectory() as folder:
             shorter = pathlib.Path(folder) / "list.txt"
