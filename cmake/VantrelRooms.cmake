@@ -14,8 +14,10 @@ endif()
 
 add_library(vantrel_options INTERFACE)
 # The presets for development make warnings errors (CMAKE_COMPILE_WARNING_AS_ERROR).
-target_compile_options(vantrel_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion
-  $<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-arc>)
+target_compile_options(vantrel_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+if(APPLE)
+  target_compile_options(vantrel_options INTERFACE -Wunguarded-availability $<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-arc>)
+endif()
 if(VANTREL_SANITIZERS)
   add_compile_options(-fsanitize=${VANTREL_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${VANTREL_SANITIZERS})

@@ -5,8 +5,6 @@
 #include <cstdio>
 #include <string>
 
-#include "app/NoLog.h"
-
 namespace vantrel::app {
 namespace {
 
@@ -27,12 +25,6 @@ std::string stamp(runtime::WallTime time) {
 }
 
 }  // namespace
-
-std::unique_ptr<platform::LogSink> ConsoleLog::from(std::optional<platform::LogLevel> least,
-                                                    const runtime::Clock& clock, std::ostream& stream) {
-    if (least) return std::make_unique<ConsoleLog>(clock, stream, *least);
-    return std::make_unique<NoLog>();
-}
 
 void ConsoleLog::write(std::string_view subsystem, std::string_view category, platform::LogLevel level,
                        std::string_view text) {

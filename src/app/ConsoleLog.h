@@ -2,9 +2,7 @@
 // subsystem and category, text. Any thread.
 #pragma once
 
-#include <memory>
 #include <mutex>
-#include <optional>
 #include <ostream>
 
 #include "platform/LogSink.h"
@@ -14,10 +12,6 @@ namespace vantrel::app {
 
 class ConsoleLog : public platform::LogSink {
   public:
-    // One for what the user asked to see; without a level nobody sees anything.
-    static std::unique_ptr<platform::LogSink> from(std::optional<platform::LogLevel> least,
-                                                   const runtime::Clock& clock, std::ostream& stream);
-
     // Leaves out what is below `least`. Clock and stream must outlive the log.
     ConsoleLog(const runtime::Clock& clock, std::ostream& stream, platform::LogLevel least)
         : clock_(clock), stream_(stream), least_(least) {}

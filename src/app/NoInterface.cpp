@@ -4,7 +4,7 @@
 
 namespace vantrel::app {
 
-int Interface::run(const CommandLine&, simulated::Desk, std::ostream& errors) {
+int Interface::run(const CommandLine&, std::optional<simulated::Desk>, std::ostream& errors) {
     errors << "vantrel: this build has no interface; --probe prints what the monitors answer (see --help)\n";
     return ExitStatus::mistake;
 }

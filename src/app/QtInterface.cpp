@@ -1,21 +1,18 @@
 #include <array>
-#include <memory>
 #include <string>
+#include <utility>
 
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
-#include "app/ConsoleLog.h"
+#include "app/Computers.h"
 #include "app/ExitStatus.h"
 #include "app/Interface.h"
 #include "app/Pictures.h"
-#include "platform/posix/FileDefaults.h"
-#include "platform/posix/PosixFileSystem.h"
-#include "platform/posix/StateFolder.h"
-#include "platform/simulated/SimulatedPlatform.h"
+#include "app/ProgramLog.h"
 #include "runtime/RealScheduler.h"
+#include "runtime/WakingScheduler.h"
 #include "ui/qt/QtApplication.h"
 #include "ui/qt/QtLoop.h"
-#include "ui/qt/QtScheduler.h"
 #include "ui/qt/QtToolkit.h"
 #include "ui/qt/SingleInstance.h"
 
@@ -30,18 +27,9 @@ struct Arguments {
     int count = 1;
 };
 
-// Where a simulated desk's settings are kept; apart from those for real monitors.
-std::unique_ptr<platform::Defaults> makeDefaults(const CommandLine& line, posix::FileSystem& files,
-                                                 platform::LogSink& log) {
-    const auto folder =
-        line.state ? line.state : posix::StateFolder::simulated(posix::StateFolder::environment());
-    if (!folder) return std::make_unique<platform::MemoryDefaults>();
-    return std::make_unique<posix::FileDefaults>(files, *folder, log);
-}
-
 }  // namespace
 
-int Interface::run(const CommandLine& line, simulated::Desk desk, std::ostream& errors) {
+int Interface::run(const CommandLine& line, std::optional<simulated::Desk> desk, std::ostream& errors) {
     if (!qt::QtApplication::hasDesktop()) {
         errors << "vantrel: there is no desktop to show anything on (neither WAYLAND_DISPLAY nor DISPLAY is "
                   "set); --screenshot DIR draws the interface into files\n";
@@ -49,17 +37,15 @@ int Interface::run(const CommandLine& line, simulated::Desk desk, std::ostream& 
     }
     Arguments arguments;
     qt::QtApplication application(arguments.count, arguments.values.data());
-    qt::SingleInstance instance("vantrel-simulated");
+    qt::SingleInstance instance(desk ? "vantrel-simulated" : "vantrel");
     if (!instance.isFirst()) return ExitStatus::success;
 
     runtime::RealScheduler real;
-    qt::QtScheduler scheduler(real);
+    runtime::WakingScheduler scheduler(real);
     runtime::MainLoop loop(scheduler);
-    const auto log = ConsoleLog::from(line.log, scheduler, errors);
-    posix::PosixFileSystem files;
-    const auto defaults = makeDefaults(line, files, *log);
-    simulated::SimulatedPlatform simulated(std::move(desk), scheduler, loop);
-    platform::Platform platform = simulated.platform(*log, *defaults);
+    const auto computer = Computers::make(line, std::move(desk), Computers::Settings::kept, scheduler, loop);
+    ProgramLog log(computer->systemLog(), line.log, scheduler, errors);
+    platform::Platform platform = computer->platform(log);
     qt::QtToolkit toolkit(loop);
     {
         qt::QtLoop qtLoop(loop, scheduler);

@@ -9,15 +9,16 @@
 
 #include "app/CapabilitiesTool.h"
 #include "app/CommandLine.h"
-#include "app/ConsoleLog.h"
+#include "app/Computers.h"
 #include "app/ExitStatus.h"
 #include "app/Interface.h"
+#include "app/ProgramLog.h"
 #include "app/ShippedStories.h"
 #include "app/StoryCheck.h"
 #include "app/StoryPlayer.h"
+#include "app/ThisComputer.h"
 #include "ddc/Probe.h"
 #include "platform/simulated/ShippedDesks.h"
-#include "platform/simulated/SimulatedPlatform.h"
 #include "platform/simulated/VirtualTime.h"
 #include "runtime/RealScheduler.h"
 
@@ -62,17 +63,32 @@ std::string deskName(const CommandLine& line) {
     return line.simulate->empty() ? std::string(ShippedDesks::defaultName) : *line.simulate;
 }
 
+// Where the program runs: on a simulated desk, or without one on this computer.
+using Place = std::optional<simulated::Desk>;
+
+Found<Place> findPlace(const CommandLine& line) {
+    if (line.simulate) {
+        auto desk = findDesk(deskName(line));
+        if (const auto* mistake = std::get_if<std::string>(&desk)) return *mistake;
+        return std::get<simulated::Desk>(std::move(desk));
+    }
+    if (ThisComputer::isKnown()) return Place();
+    return "this build can't reach real monitors yet; use --simulate for a simulated desk (see --help)";
+}
+
 std::unique_ptr<runtime::Scheduler> makeScheduler(const CommandLine& line) {
     if (line.virtualTime) return std::make_unique<simulated::VirtualTime>();
     return std::make_unique<runtime::RealScheduler>();
 }
 
-void probe(const CommandLine& line, simulated::Desk desk, std::ostream& output, std::ostream& errors) {
+void probe(const CommandLine& line, std::optional<simulated::Desk> desk, std::ostream& output,
+           std::ostream& errors) {
     const auto scheduler = makeScheduler(line);
-    const auto log = ConsoleLog::from(line.log, *scheduler, errors);
     runtime::MainLoop loop(*scheduler);
-    simulated::SimulatedPlatform simulated(std::move(desk), *scheduler, loop);
-    platform::Platform platform = simulated.platform(*log);
+    const auto computer =
+        Computers::make(line, std::move(desk), Computers::Settings::forgotten, *scheduler, loop);
+    ProgramLog log(computer->systemLog(), line.log, *scheduler, errors);
+    platform::Platform platform = computer->platform(log);
     ddc::Probe::run(platform, output);
     scheduler->finishThreads();
 }
@@ -98,23 +114,15 @@ int VantrelApp::run(const CommandLine& line) {
 }
 
 int VantrelApp::runInterface(const CommandLine& line) {
-    if (!line.simulate) {
-        return fail(
-            "this build can't reach real monitors yet; use --simulate for a simulated desk (see --help)");
-    }
-    auto desk = findDesk(deskName(line));
-    if (const auto* mistake = std::get_if<std::string>(&desk)) return fail(*mistake);
-    return Interface::run(line, std::get<simulated::Desk>(std::move(desk)), errors_);
+    auto place = findPlace(line);
+    if (const auto* mistake = std::get_if<std::string>(&place)) return fail(*mistake);
+    return Interface::run(line, std::get<Place>(std::move(place)), errors_);
 }
 
 int VantrelApp::runProbe(const CommandLine& line) {
-    if (!line.simulate) {
-        return fail(
-            "this build can't reach real monitors yet; use --simulate for a simulated desk (see --help)");
-    }
-    auto desk = findDesk(deskName(line));
-    if (const auto* mistake = std::get_if<std::string>(&desk)) return fail(*mistake);
-    probe(line, std::get<simulated::Desk>(std::move(desk)), output_, errors_);
+    auto place = findPlace(line);
+    if (const auto* mistake = std::get_if<std::string>(&place)) return fail(*mistake);
+    probe(line, std::get<Place>(std::move(place)), output_, errors_);
     return ExitStatus::success;
 }
 

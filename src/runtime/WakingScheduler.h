@@ -1,13 +1,15 @@
-// A scheduler under another event loop: opening one of its gates also wakes that
+// A scheduler under a toolkit's event loop: opening one of its gates also wakes that
 // loop.
 //
-// The main thread waits in that loop and not at its MainLoop's gate; who posts to it
-// opens the gate all the same.
+// The main thread waits in the toolkit's event loop and not at its MainLoop's gate; who
+// posts to it opens the gate all the same.
 // Threads: as Scheduler. Lifetime: `inner` outlives it.
 #pragma once
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <utility>
 
 #include "runtime/Scheduler.h"
 

@@ -47,15 +47,5 @@ TEST(ConsoleLog, LeavesOutWhatIsBelowItsLevel) {
     EXPECT_NE(stream.str(), "");
 }
 
-TEST(ConsoleLog, IsSilentWhenNobodyAskedForIt) {
-    simulated::VirtualTime time;
-    std::ostringstream stream;
-    ConsoleLog::from(std::nullopt, time, stream)->write("s", "c", platform::LogLevel::fault, "text");
-    EXPECT_EQ(stream.str(), "");
-    ConsoleLog::from(platform::LogLevel::error, time, stream)
-        ->write("s", "c", platform::LogLevel::fault, "text");
-    EXPECT_NE(stream.str(), "");
-}
-
 }  // namespace
 }  // namespace vantrel::app

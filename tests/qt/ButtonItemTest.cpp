@@ -55,5 +55,15 @@ TEST(ButtonItem, WithOnlyASymbolIsASquareWithHelp) {
     EXPECT_EQ(bench.at("remove").toolTip(), "Remove this input");
 }
 
+TEST(ButtonItem, KeepsItsTitleBesideATextThatIsTooLong) {
+    ViewBench bench(row(8, {text("A monitor with a name that is far too long for it").key("name"), spacer(),
+                            button("Turn On").key("on")})
+                        .width(200));
+    const int natural = ViewBench(button("Turn On").key("on")).place("on").width();
+    EXPECT_EQ(bench.place("on").width(), natural);
+    EXPECT_EQ(bench.place("on").right(), 199);
+    EXPECT_EQ(bench.at("name").toolTip(), "A monitor with a name that is far too long for it");
+}
+
 }  // namespace
 }  // namespace vantrel::qt

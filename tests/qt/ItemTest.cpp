@@ -47,5 +47,12 @@ TEST(Item, HasNoContextMenuWithoutItems) {
     EXPECT_EQ(bench.at("card").findChild<QMenu*>(), nullptr);
 }
 
+TEST(Item, EnablesAndDisablesWhatTheNodeSays) {
+    ViewBench bench(column(0, {button("Try Again").enabled(false).key("again")}));
+    EXPECT_FALSE(bench.at("again").isEnabled());
+    bench.show(column(0, {button("Try Again").key("again")}));
+    EXPECT_TRUE(bench.at("again").isEnabled());
+}
+
 }  // namespace
 }  // namespace vantrel::qt

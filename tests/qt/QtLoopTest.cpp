@@ -19,7 +19,7 @@ class QtLoopTest : public testing::Test {
     void endNested() { nested_.quit(); }
 
     runtime::RealScheduler inner_;
-    QtScheduler scheduler_{inner_};
+    runtime::WakingScheduler scheduler_{inner_};
     runtime::MainLoop main_{scheduler_};
     QtLoop loop_{main_, scheduler_};
     QEventLoop nested_;

@@ -15,7 +15,7 @@ using namespace ui;
 class QtToolkitTest : public testing::Test {
   protected:
     runtime::RealScheduler scheduler_;
-    QtScheduler waking_{scheduler_};
+    runtime::WakingScheduler waking_{scheduler_};
     runtime::MainLoop loop_{waking_};
     QtToolkit toolkit_{loop_};
 };

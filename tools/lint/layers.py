@@ -13,10 +13,16 @@ from tree import Finding
 ROOMS = "src/CMakeLists.txt"
 # The room that chooses the implementation of the platform, and the implementations.
 APPLICATION = "src/app"
-IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix")
+IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix", "src/platform/macos")
 
-# The one room for each toolkit, by how its headers begin.
-TOOLKITS = {"Q": "src/ui/qt"}
+# The rooms for each toolkit, by how its headers begin.
+_MACOS = ("src/platform/macos", "src/ui/appkit")
+TOOLKITS = {
+    "Q": ("src/ui/qt",),
+    **{framework + "/": _MACOS for framework in (
+        "AppKit", "CoreFoundation", "CoreGraphics", "Foundation", "IOKit", "ServiceManagement",
+        "dispatch", "mach", "os")},
+}
 
 # What a library of the system is included as, and what has to be linked for it.
 LIBRARIES = {
@@ -33,6 +39,10 @@ LIBRARIES = {
 }
 
 
+# What is linked on one system only.
+_ON_ONE_SYSTEM = re.compile(r"^\$<\$<PLATFORM_ID:\w+>:(\w+)>$")
+
+
 def rooms(cmake):
     """folder -> what it links, from the vantrel_room(...) calls."""
     found = {}
@@ -45,7 +55,7 @@ def rooms(cmake):
             elif section == "FOLDER":
                 folder = word
             else:
-                links.append(word)
+                links.append(_ON_ONE_SYSTEM.sub(r"\1", word))
         found[name] = ("src/" + folder, links)
     return found
 
@@ -83,9 +93,9 @@ def check(tree):
 
 
 def _objection(header, is_angled, room, allowed, room_of, folder):
-    owner = next((home for prefix, home in TOOLKITS.items() if is_angled and header.startswith(prefix)), folder)
-    if folder != owner:
-        return f"only {owner} may include <{header}>"
+    owners = next((homes for prefix, homes in TOOLKITS.items() if is_angled and header.startswith(prefix)), (folder,))
+    if folder not in owners:
+        return f"only {' and '.join(owners)} may include <{header}>"
     library = next((target for prefix, target in LIBRARIES.items() if header.startswith(prefix)), "")
     if library != "":
         return "" if library in allowed else f"{room} does not link what <{header}> belongs to"

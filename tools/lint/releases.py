@@ -1,4 +1,4 @@
-"""One version, one date: CMake's, and the newest release of the package's files."""
+"""One version, one date: CMake's, and the newest release of the packages' files."""
 
 import datetime
 import re
@@ -10,22 +10,25 @@ PROJECT = "CMakeLists.txt"
 CHANGELOG = "packaging/linux/changelog"
 METAINFO = "packaging/linux/org.vantrel.Vantrel.metainfo.xml"
 PAGE = "packaging/linux/vantrel.1"
+# Of a version, and no date.
+CASK = "packaging/macos/vantrel.rb"
 
 _VERSION = re.compile(r"^project\(\w+ VERSION ([\d.]+)", re.MULTILINE)
 # "vantrel (0.1.0) unstable; ..." ... " -- Name <address>  Sat, 21 Nov 2026 12:00:00 +0000"
 _CHANGE = re.compile(r"\A\w+ \(([^)]+)\)[^\n]*\n(?:(?! -- ).*\n)* -- .*>  (.*)$", re.MULTILINE)
 _RELEASE = re.compile(r'<release version="([^"]+)" date="([^"]+)"')
 _TITLE = re.compile(r'^\.TH \w+ 1 (\S+) "Vantrel ([^"]+)"', re.MULTILINE)
+_CASK = re.compile(r'^  version "([^"]+)"$', re.MULTILINE)
 
 
 def check(tree):
-    for path in (PROJECT, CHANGELOG, METAINFO, PAGE):
+    for path in (PROJECT, CHANGELOG, METAINFO, PAGE, CASK):
         if not tree.exists(path):
             return [Finding(path, 1, "is not there: tools/lint/releases.py compares it")]
-    texts = {path: tree.text(path) for path in (PROJECT, CHANGELOG, METAINFO, PAGE)}
+    texts = {path: tree.text(path) for path in (PROJECT, CHANGELOG, METAINFO, PAGE, CASK)}
     found = {
         PROJECT: _VERSION.search(texts[PROJECT]), CHANGELOG: _CHANGE.search(texts[CHANGELOG]),
-        METAINFO: _RELEASE.search(texts[METAINFO]), PAGE: _TITLE.search(texts[PAGE]),
+        METAINFO: _RELEASE.search(texts[METAINFO]), PAGE: _TITLE.search(texts[PAGE]), CASK: _CASK.search(texts[CASK]),
     }
     unreadable = [path for path, match in found.items() if not match]
     if unreadable:
@@ -37,6 +40,7 @@ def check(tree):
         CHANGELOG: (found[CHANGELOG].group(1), day),
         METAINFO: found[METAINFO].group(1, 2),
         PAGE: found[PAGE].group(2, 1),
+        CASK: (found[CASK].group(1), day),
     }
     return [
         Finding(path, line_of(texts[path], found[path].start()),

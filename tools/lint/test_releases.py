@@ -21,12 +21,13 @@ GOOD = {
     releases.METAINFO: '<releases>\n<release version="0.2.0" date="2026-11-22"/>\n'
                        '<release version="0.1.0" date="2026-11-21"/>\n</releases>\n',
     releases.PAGE: '.\\" Comment\n.TH VANTREL 1 2026-11-22 "Vantrel 0.2.0" "User Commands"\n',
+    releases.CASK: 'cask "vantrel" do\n  version "0.2.0"\nend\n',
 }
 
 
 def findings(**changes):
     names = {"project": releases.PROJECT, "changelog": releases.CHANGELOG,
-             "metainfo": releases.METAINFO, "page": releases.PAGE}
+             "metainfo": releases.METAINFO, "page": releases.PAGE, "cask": releases.CASK}
     texts = dict(GOOD)
     for name, (old, new) in changes.items():
         texts[names[name]] = texts[names[name]].replace(old, new)
@@ -38,7 +39,7 @@ class ReleasesTest(unittest.TestCase):
         self.assertEqual(findings(), [])
 
     def test_a_new_version_of_the_project_is_missed_everywhere(self):
-        self.assertEqual(len(findings(project=("0.2.0", "0.3.0"))), 3)
+        self.assertEqual(len(findings(project=("0.2.0", "0.3.0"))), 4)
 
     def test_a_changelog_without_the_version_is_found(self):
         (finding,) = findings(changelog=("(0.2.0)", "(0.2.1)"))
@@ -51,6 +52,10 @@ class ReleasesTest(unittest.TestCase):
     def test_a_page_of_another_day_is_found(self):
         (finding,) = findings(page=("2026-11-22", "2026-11-21"))
         self.assertEqual((finding.path, finding.line), (releases.PAGE, 2))
+
+    def test_a_cask_of_another_version_is_found(self):
+        (finding,) = findings(cask=("0.2.0", "0.1.0"))
+        self.assertEqual((finding.path, finding.line), (releases.CASK, 2))
 
     def test_a_date_of_the_changelog_that_is_none_is_found(self):
         self.assertIn("unknown day", findings(changelog=("22 Nov", "22 Smarch"))[0].reason)

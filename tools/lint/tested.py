@@ -11,7 +11,7 @@ UNTESTED = {
     "src/runtime/Fatal.cpp": "every death test of the other types goes through it",
     "src/ui/qt/DividerItem.cpp": "a line, which the gallery's pictures show",
     "src/ui/qt/EmbeddingTray.cpp": "the tests of the whole program on a desktop bring such a tray late",
-    "src/ui/qt/ItemFactory.cpp": "QtRenderer's test shows every kind of node through it",
+    "src/ui/qt/ItemFactory.cpp": "QtCanvas's test shows every kind of node through it",
     "src/ui/qt/OptionMenu.cpp": "the base of SymbolPickerItem and MenuItem, whose tests open it",
     "src/ui/qt/PaintedButton.cpp": "the base of ButtonItem and others, whose tests press it in every way",
     "src/ui/qt/Painting.cpp": "strokes, which the gallery's pictures show",

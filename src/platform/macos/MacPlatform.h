@@ -34,6 +34,8 @@ class MacPlatform {
     platform::Platform platform() { return platform(log_, defaults_); }
     platform::Platform platform(platform::LogSink& sink) { return platform(sink, defaults_); }
     platform::Platform platform(platform::LogSink& sink, platform::Defaults& defaults);
+    // The system's, for a sink that passes lines on.
+    platform::LogSink& log() { return log_; }
 
   private:
     runtime::Scheduler& scheduler_;

@@ -114,20 +114,19 @@ PushButton& buttonOf(const Item& item) { return *static_cast<PushButton*>(item.w
 
 }  // namespace
 
-ButtonItem::ButtonItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new PushButton(parent)) {
+ButtonItem::ButtonItem(const Making& making) : Item(making, new PushButton(making.parent)) {
     QObject::connect(&buttonOf(*this), &QAbstractButton::clicked, widget(), [this] { send(ui::Pressed{}); });
 }
 
-void ButtonItem::apply(const ui::Node& node) { buttonOf(*this).show(std::get<ui::Button>(node.element)); }
+void ButtonItem::show(const ui::Node& node) { buttonOf(*this).show(std::get<ui::Button>(node.element)); }
 
-WidthRange ButtonItem::contentWidths() const {
+layout::WidthRange ButtonItem::widths() const {
     return {buttonOf(*this).minimumWidth(), buttonOf(*this).naturalWidth()};
 }
 
-int ButtonItem::contentHeight(int) const { return buttonOf(*this).naturalHeight(); }
+int ButtonItem::height(int) const { return buttonOf(*this).naturalHeight(); }
 
-void ButtonItem::arrange(const QRect&) {
+void ButtonItem::arrange() {
     const auto& title = std::get<ui::Button>(node().element).title;
     setToolTip(node().help.empty() && buttonOf(*this).isCut() ? title : node().help);
 }

@@ -7,13 +7,14 @@ namespace vantrel::qt {
 
 class ButtonItem : public Item {
   public:
-    ButtonItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit ButtonItem(const Making& making);
+
+    layout::WidthRange widths() const override;
+    int height(int width) const override;
 
   protected:
-    void apply(const ui::Node& node) override;
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
-    void arrange(const QRect& inside) override;
+    void show(const ui::Node& node) override;
+    void arrange() override;
 };
 
 }  // namespace vantrel::qt

@@ -65,14 +65,13 @@ Body& bodyOf(const Item& item) { return *static_cast<Body*>(item.widget()); }
 
 }  // namespace
 
-DisclosureItem::DisclosureItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new Body(parent)) {
+DisclosureItem::DisclosureItem(const Making& making) : Item(making, new Body(making.parent)) {
     widget()->setFocusProxy(bodyOf(*this).title);
     QObject::connect(bodyOf(*this).title, &QAbstractButton::clicked, widget(),
                      [this] { send(ui::Toggled{!std::get<ui::Disclosure>(node().element).isOpen}); });
 }
 
-void DisclosureItem::apply(const ui::Node& node) {
+void DisclosureItem::show(const ui::Node& node) {
     TitleButton& title = *bodyOf(*this).title;
     // The button is what is operated; the group around it has no name to repeat.
     title.setAccessibleName(widget()->accessibleName());
@@ -82,36 +81,12 @@ void DisclosureItem::apply(const ui::Node& node) {
     title.show(std::get<ui::Disclosure>(node.element));
 }
 
-WidthRange DisclosureItem::contentWidths() const {
-    WidthRange widest{0, bodyOf(*this).title->naturalWidth()};
-    for (const auto& child : children()) {
-        const WidthRange range = child->widths();
-        widest = {std::max(widest.minimum, range.minimum), std::max(widest.natural, range.natural)};
-    }
-    return widest;
-}
+layout::WidthRange DisclosureItem::widths() const { return {0, bodyOf(*this).title->naturalWidth()}; }
 
-int DisclosureItem::contentHeight(int width) const {
-    int height = bodyOf(*this).title->naturalHeight();
-    for (const auto& child : children()) {
-        height += Look::current().pixels(metrics::disclosureSpacing);
-        height += child->height(child->expands() ? width : std::min(width, child->widths().natural));
-    }
-    return height;
-}
+int DisclosureItem::height(int) const { return bodyOf(*this).title->naturalHeight(); }
 
-void DisclosureItem::arrange(const QRect& inside) {
-    TitleButton& title = *bodyOf(*this).title;
-    title.setGeometry(inside.left(), inside.top(), inside.width(), title.naturalHeight());
-    int top = inside.top() + title.naturalHeight();
-    for (const auto& child : children()) {
-        top += Look::current().pixels(metrics::disclosureSpacing);
-        const int width =
-            child->expands() ? inside.width() : std::min(inside.width(), child->widths().natural);
-        const int height = child->height(width);
-        child->place({inside.left(), top, width, height});
-        top += height;
-    }
+void DisclosureItem::placeTitle(const layout::Rect& title) {
+    bodyOf(*this).title->setGeometry(title.x, title.y, title.width, title.height);
 }
 
 }  // namespace vantrel::qt

@@ -7,15 +7,14 @@ namespace vantrel::qt {
 
 class DisclosureItem : public Item {
   public:
-    DisclosureItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit DisclosureItem(const Making& making);
+
+    layout::WidthRange widths() const override;
+    int height(int width) const override;
+    void placeTitle(const layout::Rect& title) override;
 
   protected:
-    void apply(const ui::Node& node) override;
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
-    bool contentExpands() const override { return true; }
-    bool isContainer() const override { return true; }
-    void arrange(const QRect& inside) override;
+    void show(const ui::Node& node) override;
 };
 
 }  // namespace vantrel::qt

@@ -18,7 +18,6 @@ class Line : public QWidget, public Spoken {
 
 }  // namespace
 
-DividerItem::DividerItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new Line(parent)) {}
+DividerItem::DividerItem(const Making& making) : Item(making, new Line(making.parent)) {}
 
 }  // namespace vantrel::qt

@@ -7,13 +7,11 @@ namespace vantrel::qt {
 
 class DividerItem : public Item {
   public:
-    DividerItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit DividerItem(const Making& making);
 
-  protected:
-    void apply(const ui::Node&) override {}
-    WidthRange contentWidths() const override { return {1, 1}; }
-    int contentHeight(int) const override { return 1; }
-    bool contentExpands() const override { return true; }
+    layout::WidthRange widths() const override { return {1, 1}; }
+    int height(int) const override { return 1; }
+    bool expands() const override { return true; }
 };
 
 }  // namespace vantrel::qt

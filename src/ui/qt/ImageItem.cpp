@@ -33,22 +33,21 @@ class Picture : public QWidget, public Spoken {
 
 }  // namespace
 
-ImageItem::ImageItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new Picture(parent)) {}
+ImageItem::ImageItem(const Making& making) : Item(making, new Picture(making.parent)) {}
 
-void ImageItem::apply(const ui::Node& node) {
+void ImageItem::show(const ui::Node& node) {
     auto& picture = *static_cast<Picture*>(widget());
     picture.image = std::get<ui::Image>(node.element);
     picture.fills = node.layout.width > 0 && node.layout.height > 0;
     picture.update();
 }
 
-WidthRange ImageItem::contentWidths() const {
+layout::WidthRange ImageItem::widths() const {
     const int side = Look::current().symbolSide(std::get<ui::Image>(node().element).font);
     return {side, side};
 }
 
-int ImageItem::contentHeight(int) const {
+int ImageItem::height(int) const {
     return Look::current().symbolSide(std::get<ui::Image>(node().element).font);
 }
 

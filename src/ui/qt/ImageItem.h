@@ -7,12 +7,13 @@ namespace vantrel::qt {
 
 class ImageItem : public Item {
   public:
-    ImageItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit ImageItem(const Making& making);
+
+    layout::WidthRange widths() const override;
+    int height(int width) const override;
 
   protected:
-    void apply(const ui::Node& node) override;
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
+    void show(const ui::Node& node) override;
 };
 
 }  // namespace vantrel::qt

@@ -3,10 +3,9 @@
 #include "ui/qt/ButtonItem.h"
 #include "ui/qt/DisclosureItem.h"
 #include "ui/qt/DividerItem.h"
-#include "ui/qt/FormItem.h"
-#include "ui/qt/GridItem.h"
 #include "ui/qt/ImageItem.h"
 #include "ui/qt/MenuItem.h"
+#include "ui/qt/PanelItem.h"
 #include "ui/qt/PickerItem.h"
 #include "ui/qt/ProgressItem.h"
 #include "ui/qt/ScrollItem.h"
@@ -14,7 +13,6 @@
 #include "ui/qt/SelectableTextItem.h"
 #include "ui/qt/SliderItem.h"
 #include "ui/qt/SpacerItem.h"
-#include "ui/qt/StackItem.h"
 #include "ui/qt/SwitchItem.h"
 #include "ui/qt/SymbolPickerItem.h"
 #include "ui/qt/TextFieldItem.h"
@@ -25,20 +23,18 @@ namespace vantrel::qt {
 namespace {
 
 struct Maker {
-    Stage& stage;
-    ui::ElementID element;
-    QWidget* parent;
+    const Item::Making& making;
 
     template <class Kind>
     std::unique_ptr<Item> make() const {
-        return std::make_unique<Kind>(stage, element, parent);
+        return std::make_unique<Kind>(making);
     }
 
-    std::unique_ptr<Item> operator()(const ui::Stack&) const { return make<StackItem>(); }
-    std::unique_ptr<Item> operator()(const ui::Grid&) const { return make<GridItem>(); }
+    std::unique_ptr<Item> operator()(const ui::Stack&) const { return make<PanelItem>(); }
+    std::unique_ptr<Item> operator()(const ui::Grid&) const { return make<PanelItem>(); }
     std::unique_ptr<Item> operator()(const ui::Scroll&) const { return make<ScrollItem>(); }
     std::unique_ptr<Item> operator()(const ui::Disclosure&) const { return make<DisclosureItem>(); }
-    std::unique_ptr<Item> operator()(const ui::Form&) const { return make<FormItem>(); }
+    std::unique_ptr<Item> operator()(const ui::Form&) const { return make<ScrollItem>(); }
     std::unique_ptr<Item> operator()(const ui::Section&) const { return make<SectionItem>(); }
     std::unique_ptr<Item> operator()(const ui::Text& text) const {
         return text.isSelectable ? make<SelectableTextItem>() : make<TextItem>();
@@ -60,10 +56,8 @@ struct Maker {
 
 }  // namespace
 
-std::unique_ptr<Item> makeItem(Stage& stage, ui::ElementID element, const ui::Node& node, QWidget* parent) {
-    auto item = std::visit(Maker{stage, element, parent}, node.element);
-    item->update(node);
-    return item;
+std::unique_ptr<Item> makeItem(const Item::Making& making, const ui::Node& node) {
+    return std::visit(Maker{making}, node.element);
 }
 
 }  // namespace vantrel::qt

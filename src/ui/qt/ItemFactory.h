@@ -1,5 +1,5 @@
-// The item of a node's kind. A picker stays with or without a symbol, and a text
-// selectable or not, as it was first.
+// The item of a node's kind; it doesn't show the node yet. A picker stays with or
+// without a symbol, and a text selectable or not, as it was first.
 #pragma once
 
 #include <memory>
@@ -8,6 +8,6 @@
 
 namespace vantrel::qt {
 
-std::unique_ptr<Item> makeItem(Stage& stage, ui::ElementID element, const ui::Node& node, QWidget* parent);
+std::unique_ptr<Item> makeItem(const Item::Making& making, const ui::Node& node);
 
 }  // namespace vantrel::qt

@@ -48,7 +48,7 @@ double contrast(const QColor& one, const QColor& other);
 // What a translucent colour looks like on an opaque one.
 QColor blend(const QColor& over, const QColor& under);
 
-// Lengths in points.
+// Lengths in points; layout::metrics has those around what lies in containers.
 namespace metrics {
 inline constexpr int controlHeight = 24;
 inline constexpr int smallControlHeight = 22;
@@ -70,18 +70,11 @@ inline constexpr int sliderTrack = 4;
 inline constexpr int sliderMinimumWidth = 60;
 inline constexpr int progressSide = 16;
 inline constexpr int scrollBarWidth = 6;
-inline constexpr int disclosureSpacing = 6;
 inline constexpr int popoverRadius = 12;
 inline constexpr int popoverGap = 6;
 // For the title bar, which the available part of a screen doesn't leave out.
 inline constexpr int roomForFrame = 60;
-inline constexpr int formPadding = 20;
-inline constexpr int sectionSpacing = 18;
-inline constexpr int sectionTitleSpacing = 7;
 inline constexpr int sectionRadius = 10;
-inline constexpr int rowHorizontalPadding = 12;
-inline constexpr int rowVerticalPadding = 8;
-inline constexpr int rowMinimumHeight = 40;
 }  // namespace metrics
 
 }  // namespace vantrel::qt

@@ -39,11 +39,11 @@ TitledButton& buttonOf(const Item& item) { return *static_cast<TitledButton*>(it
 
 }  // namespace
 
-MenuItem::MenuItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element,
-           new TitledButton(parent, [this](std::size_t option) { send(ui::Chosen{option}); })) {}
+MenuItem::MenuItem(const Making& making)
+    : Item(making,
+           new TitledButton(making.parent, [this](std::size_t option) { send(ui::Chosen{option}); })) {}
 
-void MenuItem::apply(const ui::Node& node) {
+void MenuItem::show(const ui::Node& node) {
     const auto& menu = std::get<ui::Menu>(node.element);
     TitledButton& button = buttonOf(*this);
     button.title = TextLines(QString::fromStdString(menu.title), Look::current().font(ui::Font::body),
@@ -52,12 +52,12 @@ void MenuItem::apply(const ui::Node& node) {
     button.update();
 }
 
-WidthRange MenuItem::contentWidths() const {
+layout::WidthRange MenuItem::widths() const {
     const TitledButton& button = buttonOf(*this);
     return {button.around() + button.title.minimumWidth(), button.around() + button.title.naturalWidth()};
 }
 
-int MenuItem::contentHeight(int) const {
+int MenuItem::height(int) const {
     return std::max(Look::current().pixels(metrics::controlHeight), buttonOf(*this).title.height(0) + 6);
 }
 

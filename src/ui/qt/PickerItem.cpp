@@ -117,8 +117,7 @@ int gap() { return Look::current().pixels(12); }
 
 }  // namespace
 
-PickerItem::PickerItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new Labelled(parent)) {
+PickerItem::PickerItem(const Making& making) : Item(making, new Labelled(making.parent)) {
     QObject::connect(widgetsOf(*this).box, &QComboBox::activated, widget(), [this](int option) {
         const auto& picker = std::get<ui::Picker>(node().element);
         const bool isOther = picker.selected != static_cast<std::size_t>(option);
@@ -128,7 +127,7 @@ PickerItem::PickerItem(Stage& stage, ui::ElementID element, QWidget* parent)
     });
 }
 
-void PickerItem::apply(const ui::Node& node) {
+void PickerItem::show(const ui::Node& node) {
     const auto& picker = std::get<ui::Picker>(node.element);
     Labelled& widgets = widgetsOf(*this);
     const Look& look = Look::current();
@@ -173,7 +172,7 @@ int PickerItem::labelWidth(int width) const {
     return std::min(label, std::max(width / 2, width - gap() - box));
 }
 
-WidthRange PickerItem::contentWidths() const {
+layout::WidthRange PickerItem::widths() const {
     const Labelled& widgets = widgetsOf(*this);
     const bool hasLabel = !widgets.label.text().isEmpty();
     const int label = hasLabel ? widgets.label.naturalWidth() + 1 + gap() : 0;
@@ -182,22 +181,22 @@ WidthRange PickerItem::contentWidths() const {
             label + widgets.box->naturalWidth()};
 }
 
-int PickerItem::contentHeight(int width) const {
+int PickerItem::height(int width) const {
     const Labelled& widgets = widgetsOf(*this);
     const int label = widgets.label.text().isEmpty() ? 0 : widgets.label.height(labelWidth(width));
     return std::max(label, widgets.box->naturalHeight());
 }
 
-bool PickerItem::contentExpands() const { return !widgetsOf(*this).label.text().isEmpty(); }
+bool PickerItem::expands() const { return !widgetsOf(*this).label.text().isEmpty(); }
 
-void PickerItem::arrange(const QRect& inside) {
+void PickerItem::arrange() {
     Labelled& widgets = widgetsOf(*this);
-    widgets.labelWidth = labelWidth(inside.width());
+    widgets.labelWidth = labelWidth(widget()->width());
     const int used = widgets.labelWidth > 0 ? widgets.labelWidth + gap() : 0;
-    const int width = std::min(inside.width() - used,
-                               std::max(widgets.box->naturalWidth(), used == 0 ? inside.width() : 0));
+    const int width = std::min(widget()->width() - used,
+                               std::max(widgets.box->naturalWidth(), used == 0 ? widget()->width() : 0));
     const int height = widgets.box->naturalHeight();
-    widgets.box->setGeometry(inside.width() - width, (inside.height() - height) / 2, width, height);
+    widgets.box->setGeometry(widget()->width() - width, (widget()->height() - height) / 2, width, height);
     const bool needsWhole = node().help.empty() && widgets.box->isCut();
     setToolTip(needsWhole ? widgets.box->currentText().toStdString() : node().help);
     widgets.update();

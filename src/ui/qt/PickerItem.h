@@ -8,14 +8,15 @@ namespace vantrel::qt {
 
 class PickerItem : public Item {
   public:
-    PickerItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit PickerItem(const Making& making);
+
+    layout::WidthRange widths() const override;
+    int height(int width) const override;
+    bool expands() const override;
 
   protected:
-    void apply(const ui::Node& node) override;
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
-    bool contentExpands() const override;
-    void arrange(const QRect& inside) override;
+    void show(const ui::Node& node) override;
+    void arrange() override;
 
   private:
     void showChosen();

@@ -51,14 +51,13 @@ class Spinner : public QWidget, public Spoken {
 
 }  // namespace
 
-ProgressItem::ProgressItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new Spinner(parent)) {}
+ProgressItem::ProgressItem(const Making& making) : Item(making, new Spinner(making.parent)) {}
 
-WidthRange ProgressItem::contentWidths() const {
+layout::WidthRange ProgressItem::widths() const {
     const int side = Look::current().pixels(metrics::progressSide);
     return {side, side};
 }
 
-int ProgressItem::contentHeight(int) const { return Look::current().pixels(metrics::progressSide); }
+int ProgressItem::height(int) const { return Look::current().pixels(metrics::progressSide); }
 
 }  // namespace vantrel::qt

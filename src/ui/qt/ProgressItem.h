@@ -7,12 +7,10 @@ namespace vantrel::qt {
 
 class ProgressItem : public Item {
   public:
-    ProgressItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit ProgressItem(const Making& making);
 
-  protected:
-    void apply(const ui::Node&) override {}
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
+    layout::WidthRange widths() const override;
+    int height(int width) const override;
 };
 
 }  // namespace vantrel::qt

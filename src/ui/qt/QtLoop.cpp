@@ -21,7 +21,7 @@ const QEvent::Type wakeEvent = static_cast<QEvent::Type>(QEvent::registerEventTy
 
 class QtLoop::Pump : public QObject {
   public:
-    Pump(runtime::MainLoop& loop, QtScheduler& scheduler) : loop_(loop), scheduler_(scheduler) {
+    Pump(runtime::MainLoop& loop, runtime::WakingScheduler& scheduler) : loop_(loop), scheduler_(scheduler) {
         // Whatever Qt has been doing may have made something due.
         QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
                          [this] { arm(); });
@@ -67,13 +67,13 @@ class QtLoop::Pump : public QObject {
     }
 
     runtime::MainLoop& loop_;
-    QtScheduler& scheduler_;
+    runtime::WakingScheduler& scheduler_;
     QBasicTimer timer_;
     std::optional<runtime::MonotonicTime> armedFor_;
     std::atomic<bool> isWoken_ = false;
 };
 
-QtLoop::QtLoop(runtime::MainLoop& loop, QtScheduler& scheduler)
+QtLoop::QtLoop(runtime::MainLoop& loop, runtime::WakingScheduler& scheduler)
     : scheduler_(scheduler), pump_(std::make_unique<Pump>(loop, scheduler)) {
     scheduler_.onOpen([pump = pump_.get()] { pump->wake(); });
     pump_->wake();

@@ -8,14 +8,14 @@
 #include <memory>
 
 #include "runtime/MainLoop.h"
-#include "ui/qt/QtScheduler.h"
+#include "runtime/WakingScheduler.h"
 
 namespace vantrel::qt {
 
 class QtLoop {
   public:
     // `loop` was made on `scheduler`.
-    QtLoop(runtime::MainLoop& loop, QtScheduler& scheduler);
+    QtLoop(runtime::MainLoop& loop, runtime::WakingScheduler& scheduler);
     QtLoop(const QtLoop&) = delete;
     QtLoop& operator=(const QtLoop&) = delete;
     ~QtLoop();
@@ -27,7 +27,7 @@ class QtLoop {
   private:
     class Pump;
 
-    QtScheduler& scheduler_;
+    runtime::WakingScheduler& scheduler_;
     std::unique_ptr<Pump> pump_;
 };
 

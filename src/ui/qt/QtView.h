@@ -5,9 +5,12 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "ui/View.h"
-#include "ui/qt/QtRenderer.h"
+#include "ui/layout/BoxRenderer.h"
+#include "ui/qt/QtCanvas.h"
 
 namespace vantrel::qt {
 
@@ -16,21 +19,22 @@ class QtView : public ui::View {
     explicit QtView(QWidget* parent);
     ~QtView() override;
 
-    ui::Renderer& renderer() override { return *renderer_; }
+    ui::Renderer& renderer() override { return renderer_; }
     void onEvent(std::function<void(ui::ElementID, const ui::Event&)> handler) override;
     ui::Size fittingSize() const override;
 
     QWidget& widget();
-    std::vector<std::string> cutTexts() const { return renderer_->cutTexts(); }
-    QSize fittingPixels() const { return renderer_->fittingSize(); }
-    void onFinish(std::function<void()> action) { renderer_->onFinish(std::move(action)); }
-    const Item* item(ui::ElementID element) const { return renderer_->item(element); }
+    // Texts that were cut because there is no room for them.
+    std::vector<std::string> cutTexts() const;
+    QSize fittingPixels() const;
+    void onFinish(std::function<void()> action) { renderer_.onFinish(std::move(action)); }
 
   private:
-    class Canvas;
+    class Ground;
 
-    std::unique_ptr<Canvas> canvas_;
-    std::unique_ptr<QtRenderer> renderer_;
+    std::unique_ptr<Ground> ground_;
+    QtCanvas canvas_;
+    layout::BoxRenderer renderer_;
 };
 
 }  // namespace vantrel::qt

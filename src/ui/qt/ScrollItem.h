@@ -1,4 +1,4 @@
-// As high as its contents, up to a limit; then it scrolls.
+// What the contents of a scroll or a form lie on.
 #pragma once
 
 #include "ui/qt/Item.h"
@@ -7,22 +7,10 @@ namespace vantrel::qt {
 
 class ScrollItem : public Item {
   public:
-    ScrollItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit ScrollItem(const Making& making);
 
     QWidget* childrenParent() const override;
-    bool canShrink() const override { return true; }
-
-  protected:
-    void apply(const ui::Node& node) override;
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
-    bool contentExpands() const override { return true; }
-    void arrange(const QRect& inside) override;
-
-  private:
-    int wholeHeight(int width) const;
-
-    ui::Scroll scroll_;
+    void setContentSize(int width, int height) override;
 };
 
 }  // namespace vantrel::qt

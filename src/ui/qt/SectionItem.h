@@ -1,4 +1,4 @@
-// A titled panel of rows with lines between them.
+// A title above a panel with lines between its rows.
 #pragma once
 
 #include "ui/qt/Item.h"
@@ -7,19 +7,14 @@ namespace vantrel::qt {
 
 class SectionItem : public Item {
   public:
-    SectionItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit SectionItem(const Making& making);
+
+    int height(int width) const override;
+    void placeTitle(const layout::Rect& title) override;
+    void showPanel(const layout::Rect& panel, const std::vector<int>& lines) override;
 
   protected:
-    void apply(const ui::Node& node) override;
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
-    bool contentExpands() const override { return true; }
-    bool isContainer() const override { return true; }
-    void arrange(const QRect& inside) override;
-
-  private:
-    int titleHeight() const;
-    int rowHeight(const Item& row, int width) const;
+    void show(const ui::Node& node) override;
 };
 
 }  // namespace vantrel::qt

@@ -32,10 +32,10 @@ ReadOnlyText& textOf(const Item& item) { return *static_cast<ReadOnlyText*>(item
 
 }  // namespace
 
-SelectableTextItem::SelectableTextItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new ReadOnlyText(parent)) {}
+SelectableTextItem::SelectableTextItem(const Making& making)
+    : Item(making, new ReadOnlyText(making.parent)) {}
 
-void SelectableTextItem::apply(const ui::Node& node) {
+void SelectableTextItem::show(const ui::Node& node) {
     const auto& text = std::get<ui::Text>(node.element);
     const Look& look = Look::current();
     ReadOnlyText& shown = textOf(*this);
@@ -49,14 +49,14 @@ void SelectableTextItem::apply(const ui::Node& node) {
     if (shown.toPlainText() != wanted) shown.setPlainText(wanted);
 }
 
-WidthRange SelectableTextItem::contentWidths() const {
+layout::WidthRange SelectableTextItem::widths() const {
     const auto& text = std::get<ui::Text>(node().element);
     const TextLines lines(QString::fromStdString(text.text), Look::current().font(text.font),
                           TextLines::Wrapping::wraps);
     return {lines.minimumWidth(), lines.naturalWidth() + 1};
 }
 
-int SelectableTextItem::contentHeight(int width) const {
+int SelectableTextItem::height(int width) const {
     const auto& text = std::get<ui::Text>(node().element);
     return TextLines(QString::fromStdString(text.text), Look::current().font(text.font),
                      TextLines::Wrapping::wraps)

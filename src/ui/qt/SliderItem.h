@@ -11,13 +11,14 @@ namespace vantrel::qt {
 
 class SliderItem : public Item {
   public:
-    SliderItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit SliderItem(const Making& making);
+
+    layout::WidthRange widths() const override;
+    int height(int width) const override;
+    bool expands() const override { return true; }
 
   protected:
-    void apply(const ui::Node& node) override;
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
-    bool contentExpands() const override { return true; }
+    void show(const ui::Node& node) override;
 };
 
 }  // namespace vantrel::qt

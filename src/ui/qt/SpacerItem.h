@@ -7,16 +7,10 @@ namespace vantrel::qt {
 
 class SpacerItem : public Item {
   public:
-    SpacerItem(Stage& stage, ui::ElementID element, QWidget* parent)
-        : Item(stage, element, new QWidget(parent)) {}
-
-    bool expandsVertically() const override { return true; }
+    explicit SpacerItem(const Making& making) : Item(making, new QWidget(making.parent)) {}
 
   protected:
-    void apply(const ui::Node&) override { widget()->setAttribute(Qt::WA_TransparentForMouseEvents); }
-    WidthRange contentWidths() const override { return {}; }
-    int contentHeight(int) const override { return 0; }
-    bool contentExpands() const override { return true; }
+    void show(const ui::Node&) override { widget()->setAttribute(Qt::WA_TransparentForMouseEvents); }
 };
 
 }  // namespace vantrel::qt

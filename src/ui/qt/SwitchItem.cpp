@@ -82,20 +82,19 @@ SwitchButton& buttonOf(const Item& item) { return *static_cast<SwitchButton*>(it
 
 }  // namespace
 
-SwitchItem::SwitchItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new SwitchButton(parent)) {
+SwitchItem::SwitchItem(const Making& making) : Item(making, new SwitchButton(making.parent)) {
     QObject::connect(&buttonOf(*this), &QAbstractButton::clicked, widget(),
                      [this] { send(ui::Toggled{!std::get<ui::Switch>(node().element).isOn}); });
 }
 
-void SwitchItem::apply(const ui::Node& node) { buttonOf(*this).show(std::get<ui::Switch>(node.element)); }
+void SwitchItem::show(const ui::Node& node) { buttonOf(*this).show(std::get<ui::Switch>(node.element)); }
 
-WidthRange SwitchItem::contentWidths() const {
+layout::WidthRange SwitchItem::widths() const {
     return {buttonOf(*this).minimumWidth(), buttonOf(*this).naturalWidth()};
 }
 
-int SwitchItem::contentHeight(int width) const { return buttonOf(*this).naturalHeight(width); }
+int SwitchItem::height(int width) const { return buttonOf(*this).naturalHeight(width); }
 
-bool SwitchItem::contentExpands() const { return buttonOf(*this).hasTitle(); }
+bool SwitchItem::expands() const { return buttonOf(*this).hasTitle(); }
 
 }  // namespace vantrel::qt

@@ -8,13 +8,14 @@ namespace vantrel::qt {
 
 class SwitchItem : public Item {
   public:
-    SwitchItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit SwitchItem(const Making& making);
+
+    layout::WidthRange widths() const override;
+    int height(int width) const override;
+    bool expands() const override;
 
   protected:
-    void apply(const ui::Node& node) override;
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
-    bool contentExpands() const override;
+    void show(const ui::Node& node) override;
 };
 
 }  // namespace vantrel::qt

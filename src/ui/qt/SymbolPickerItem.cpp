@@ -36,11 +36,11 @@ class SymbolButton : public OptionMenu {
 
 }  // namespace
 
-SymbolPickerItem::SymbolPickerItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element,
-           new SymbolButton(parent, [this](std::size_t option) { send(ui::Chosen{option}); })) {}
+SymbolPickerItem::SymbolPickerItem(const Making& making)
+    : Item(making,
+           new SymbolButton(making.parent, [this](std::size_t option) { send(ui::Chosen{option}); })) {}
 
-void SymbolPickerItem::apply(const ui::Node& node) {
+void SymbolPickerItem::show(const ui::Node& node) {
     auto& button = *static_cast<SymbolButton*>(widget());
     button.picker = std::get<ui::Picker>(node.element);
     button.setOptions(
@@ -48,11 +48,11 @@ void SymbolPickerItem::apply(const ui::Node& node) {
     button.update();
 }
 
-WidthRange SymbolPickerItem::contentWidths() const {
+layout::WidthRange SymbolPickerItem::widths() const {
     const int width = Look::current().pixels(metrics::symbolButtonSide + metrics::chevronSide);
     return {width, width};
 }
 
-int SymbolPickerItem::contentHeight(int) const { return Look::current().pixels(metrics::symbolButtonSide); }
+int SymbolPickerItem::height(int) const { return Look::current().pixels(metrics::symbolButtonSide); }
 
 }  // namespace vantrel::qt

@@ -35,15 +35,14 @@ Field& fieldOf(const Item& item) { return *static_cast<Field*>(item.widget()); }
 
 }  // namespace
 
-TextFieldItem::TextFieldItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new Field(parent)) {
+TextFieldItem::TextFieldItem(const Making& making) : Item(making, new Field(making.parent)) {
     QObject::connect(&fieldOf(*this), &QLineEdit::textEdited, widget(),
                      [this](const QString& text) { send(ui::Edited{text.toStdString()}); });
     // A text that was not taken over is not kept either.
     QObject::connect(&fieldOf(*this), &QLineEdit::editingFinished, widget(), [this] { showText(); });
 }
 
-void TextFieldItem::apply(const ui::Node& node) {
+void TextFieldItem::show(const ui::Node& node) {
     const auto& element = std::get<ui::TextField>(node.element);
     const Look& look = Look::current();
     Field& field = fieldOf(*this);
@@ -68,12 +67,12 @@ void TextFieldItem::showText() {
     field.setCursorPosition(std::min(cursor, static_cast<int>(wanted.size())));
 }
 
-WidthRange TextFieldItem::contentWidths() const {
+layout::WidthRange TextFieldItem::widths() const {
     const int width = Look::current().pixels(metrics::fieldMinimumWidth);
     return {width, width};
 }
 
-int TextFieldItem::contentHeight(int) const {
+int TextFieldItem::height(int) const {
     return std::max(Look::current().pixels(metrics::fieldHeight),
                     QFontMetrics(fieldOf(*this).font()).height() + 8);
 }

@@ -29,15 +29,14 @@ Label& labelOf(const Item& item) { return *static_cast<Label*>(item.widget()); }
 
 }  // namespace
 
-TextItem::TextItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new Label(parent)) {}
+TextItem::TextItem(const Making& making) : Item(making, new Label(making.parent)) {}
 
 // So that the numbers beside sliders end below one another.
 void TextItem::setBehindExpanding(bool isBehind) {
     labelOf(*this).alignment = isBehind ? Qt::AlignRight : Qt::AlignLeft;
 }
 
-void TextItem::apply(const ui::Node& node) {
+void TextItem::show(const ui::Node& node) {
     const auto& text = std::get<ui::Text>(node.element);
     Label& label = labelOf(*this);
     label.lines = TextLines(QString::fromStdString(text.text), Look::current().font(text.font),
@@ -46,16 +45,16 @@ void TextItem::apply(const ui::Node& node) {
     label.update();
 }
 
-WidthRange TextItem::contentWidths() const {
+layout::WidthRange TextItem::widths() const {
     const TextLines& lines = labelOf(*this).lines;
     return {lines.minimumWidth(), lines.naturalWidth()};
 }
 
-int TextItem::contentHeight(int width) const { return labelOf(*this).lines.height(width); }
+int TextItem::height(int width) const { return labelOf(*this).lines.height(width); }
 
-void TextItem::arrange(const QRect& inside) {
+void TextItem::arrange() {
     const TextLines& lines = labelOf(*this).lines;
-    const bool needsWhole = node().help.empty() && lines.isCut(inside.width());
+    const bool needsWhole = node().help.empty() && lines.isCut(widget()->width());
     setToolTip(needsWhole ? lines.text().toStdString() : node().help);
 }
 

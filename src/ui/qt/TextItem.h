@@ -8,15 +8,15 @@ namespace vantrel::qt {
 
 class TextItem : public Item {
   public:
-    TextItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit TextItem(const Making& making);
 
     void setBehindExpanding(bool isBehind) override;
+    layout::WidthRange widths() const override;
+    int height(int width) const override;
 
   protected:
-    void apply(const ui::Node& node) override;
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
-    void arrange(const QRect& inside) override;
+    void show(const ui::Node& node) override;
+    void arrange() override;
 };
 
 }  // namespace vantrel::qt

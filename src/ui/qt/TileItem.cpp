@@ -92,20 +92,19 @@ Tile& tileOf(const Item& item) { return *static_cast<Tile*>(item.widget()); }
 
 }  // namespace
 
-TileItem::TileItem(Stage& stage, ui::ElementID element, QWidget* parent)
-    : Item(stage, element, new Tile(parent)) {
+TileItem::TileItem(const Making& making) : Item(making, new Tile(making.parent)) {
     QObject::connect(&tileOf(*this), &QAbstractButton::clicked, widget(), [this] { send(ui::Pressed{}); });
 }
 
-void TileItem::apply(const ui::Node& node) { tileOf(*this).show(std::get<ui::Tile>(node.element)); }
+void TileItem::show(const ui::Node& node) { tileOf(*this).show(std::get<ui::Tile>(node.element)); }
 
-WidthRange TileItem::contentWidths() const {
+layout::WidthRange TileItem::widths() const {
     return {tileOf(*this).minimumWidth(), tileOf(*this).naturalWidth()};
 }
 
-int TileItem::contentHeight(int) const { return tileOf(*this).naturalHeight(); }
+int TileItem::height(int) const { return tileOf(*this).naturalHeight(); }
 
-void TileItem::arrange(const QRect&) {
+void TileItem::arrange() {
     const auto& title = std::get<ui::Tile>(node().element).title;
     setToolTip(node().help.empty() && tileOf(*this).isCut() ? title : node().help);
 }

@@ -7,14 +7,15 @@ namespace vantrel::qt {
 
 class TileItem : public Item {
   public:
-    TileItem(Stage& stage, ui::ElementID element, QWidget* parent);
+    explicit TileItem(const Making& making);
+
+    layout::WidthRange widths() const override;
+    int height(int width) const override;
+    bool expands() const override { return true; }
 
   protected:
-    void apply(const ui::Node& node) override;
-    WidthRange contentWidths() const override;
-    int contentHeight(int width) const override;
-    bool contentExpands() const override { return true; }
-    void arrange(const QRect& inside) override;
+    void show(const ui::Node& node) override;
+    void arrange() override;
 };
 
 }  // namespace vantrel::qt

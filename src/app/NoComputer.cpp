@@ -1,0 +1,10 @@
+// A system that the program knows no way through to real monitors on.
+#include "app/ThisComputer.h"
+
+namespace vantrel::app {
+
+std::unique_ptr<Computer> ThisComputer::make(runtime::Scheduler&, runtime::MainLoop&) { return nullptr; }
+
+bool ThisComputer::isKnown() { return false; }
+
+}  // namespace vantrel::app
