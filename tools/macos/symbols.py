@@ -17,7 +17,7 @@ from typing import NamedTuple
 # that is linked would keep it from starting where the function is missing.
 PRIVATE = re.compile(r"^_*(?:IOAVService|CGS[A-Z]|SLS[A-Z]|DisplayServices|CoreDisplay_|CGVirtualDisplay|IOAV)")
 # What the rest of the program links too.
-SHARED = {"libSystem", "libutf8proc"}
+SHARED = {"libSystem"}
 # What the compiler asks for by itself, and C++'s own library.
 COMPILERS = {
     "libSystem": {"dyld_stub_binder", "__Unwind_Resume"},
@@ -25,6 +25,9 @@ COMPILERS = {
     "libcompiler-rt": {"___isPlatformVersionAtLeast"},
 }
 CPLUSPLUS = re.compile(r"^___dso_handle$|^__mh_execute_header$|^__Z|^___cxa_|^___gxx_personality|^___clang_call_terminate")
+# The library that the program brings with it has all its functions there.
+BROUGHT = re.compile(r"^_utf8proc_")
+UTF8PROC = "/usr/lib/x86_64-linux-gnu/libutf8proc.so"
 CLASS = "_OBJC_CLASS_$_"
 METACLASS = "_OBJC_METACLASS_$_"
 LIBCXX = ("/usr/lib/llvm-16/lib/libc++.so.1", "/usr/lib/llvm-16/lib/libc++abi.so.1")
@@ -85,7 +88,7 @@ def findings(needed, allowed, path, owners=None):
     for name in sorted(needed):
         if PRIVATE.match(name.removeprefix(CLASS)):
             yield f"private, must not be linked: {shown(name)}"
-        elif name not in listed and not CPLUSPLUS.match(name):
+        elif name not in listed and not CPLUSPLUS.match(name) and not BROUGHT.match(name):
             yield f"not in {path}: {shown(name)}"
     for symbol, line in allowed.items():
         if symbol.name not in needed and (owners is None or symbol.owner in owners):
@@ -117,3 +120,15 @@ def write_stubs(folder, allowed):
         else:
             install_name = f"/System/Library/Frameworks/{owner}.framework/{owner}"
             _stub(folder / f"{owner}.framework/{owner}.tbd", install_name, symbols)
+
+
+def write_utf8proc(folder):
+    """An archive with utf8proc's functions, which do nothing: on a Mac it is linked statically."""
+    folder = pathlib.Path(folder)
+    folder.mkdir(parents=True, exist_ok=True)
+    functions = sorted(name for name in _nm("-D", "--defined-only", UTF8PROC) if BROUGHT.match("_" + name))
+    source, code, archive = folder / "utf8proc.c", folder / "utf8proc.o", folder / "libutf8proc.a"
+    source.write_text("".join(f"void {name}(void);\nvoid {name}(void) {{}}\n" for name in functions), encoding="utf-8")
+    subprocess.run(["clang-16", "-target", "arm64-apple-macos13", "-c", source, "-o", code], check=True)
+    archive.unlink(missing_ok=True)
+    subprocess.run(["llvm-ar-16", "rcs", archive, code], check=True)
