@@ -79,10 +79,11 @@ def main(name, documentation, check):
         files = sources(chosen.paths)
         if not files:
             raise compiler.Missing(f"no sources in {', '.join(chosen.paths)}")
+        results = each(check, files, chosen.build)
     except (compiler.Missing, OSError) as problem:
         print(f"{name}: {problem}", file=sys.stderr)
         return 2
-    failed = [(path, output) for path, passes, output in each(check, files, chosen.build) if not passes]
+    failed = [(path, output) for path, passes, output in results if not passes]
     for path, output in failed:
         print(output or f"{path}: failed without a word", file=sys.stderr)
     print(f"{name}: {len(files)} files, {len(failed)} with findings")
