@@ -5,37 +5,42 @@ analyze.py FILE-OR-FOLDER...
 
 Fails if it warns of anything."""
 
-import argparse
+import fcntl
+import pathlib
 import sys
 
 import compiler
 import runner
 
-# See tests/macos/analysis/io_handles.h.
+# See io_handles.h there.
+COMMON = compiler.ROOT / "tests/macos/analysis/common.h"
 HANDLES = ("io_object_t", "io_iterator_t", "io_service_t", "io_registry_entry_t", "io_connect_t")
 STATUSES = ("kern_return_t", "IOReturn")
-FLAGS = (
-    "-Xclang", "-analyzer-output=text",
-    "-Xclang", "-analyzer-checker=fuchsia.HandleChecker,nullability,optin.osx",
-    *(f"-D{name}=zx_handle_t" for name in HANDLES),
-    *(f"-D{name}=zx_status_t" for name in STATUSES),
-    f"-include{compiler.ROOT / 'tests/macos/analysis/io_handles.h'}",
-)
+NAMES = (*(f"-D{name}=zx_handle_t" for name in HANDLES), *(f"-D{name}=zx_status_t" for name in STATUSES))
+CHECKERS = ("-Xclang", "-analyzer-output=text", "-Xclang", "-analyzer-checker=fuchsia.HandleChecker,nullability,optin.osx")
 
 
-def check(path, build):
-    passes, output = runner.run(compiler.command(path, build, "--analyze", *FLAGS))
-    # It warns with status 0.
-    return passes and not output, output
+def common_headers(path, build):
+    """COMMON compiled for the language of the path."""
+    kind = f"analysis/common{pathlib.Path(path).suffix}"
+    output = compiler.place(COMMON, build, kind).with_suffix(".pch")
+    output.parent.mkdir(parents=True, exist_ok=True)
+    language, *flags = compiler.language_flags(path)[1:]
+    command = [compiler.CLANG, "-x", f"{language}-header", *flags, *compiler.platform_flags(build), *NAMES,
+               "-o", str(output), str(COMMON)]
+    with open(output.with_suffix(".lock"), "w", encoding="utf-8") as lock:
+        fcntl.flock(lock, fcntl.LOCK_EX)
+        passes, printed = runner.compile(command, COMMON, build, kind, output)
+    if not passes:
+        raise compiler.Missing(f"{COMMON} does not compile:\n{printed}")
+    return output
 
 
-def main():
-    arguments = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    arguments.add_argument("paths", nargs="+", metavar="FILE-OR-FOLDER")
-    arguments.add_argument("--build", default=compiler.default_build())
-    chosen = arguments.parse_args()
-    return runner.report("analysis", check, chosen.paths, chosen.build)
+def check(path, build, *more):
+    headers = ("-include-pch", str(common_headers(path, build)))
+    command = compiler.command(path, build, "--analyze", *CHECKERS, *NAMES, *headers, *more)
+    return runner.compile(command, path, build, "analysis")
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(runner.main("analysis", __doc__, check))

@@ -5,7 +5,6 @@ the system's, and the stand-ins of tests/macos/include.
 What comes out is for looking at, never for shipping: constants and structures of the C
 library are not those of macOS."""
 
-import os
 import pathlib
 import shutil
 
@@ -16,6 +15,8 @@ LIBCXX = pathlib.Path("/usr/lib/llvm-16/include/c++/v1")
 MUSL = pathlib.Path("/usr/include/x86_64-linux-musl")
 CLANG = "clang++-16"
 TARGET = "arm64-apple-macos13"
+# Where the checks keep what they made, and find headers that the build writes.
+BUILD = ROOT / "build/dev"
 
 # Header-only libraries, and the one library, that the program shares with Linux. Only
 # these: the folder that they lie in holds the system's C headers too.
@@ -66,7 +67,7 @@ def shared_headers(folder):
 
 def platform_flags(build):
     """What makes clang find the stand-ins, and nothing of the system's."""
-    folders = (LIBC, LIBCXX, STANDINS, MUSL, shared_headers(pathlib.Path(build) / "include"))
+    folders = (LIBC, LIBCXX, STANDINS, MUSL, shared_headers(pathlib.Path(build) / "macos/include"))
     return ["-target", TARGET, "-nostdlibinc", "-D_GNU_SOURCE", *(f"-isystem{folder}" for folder in folders)]
 
 
@@ -76,11 +77,15 @@ def language_flags(path):
     return ["-x", "c++", "-std=c++20"]
 
 
+def place(path, build, kind):
+    """Where a check keeps what belongs to a source."""
+    path = pathlib.Path(path).resolve()
+    return pathlib.Path(build) / "macos" / kind / (path.relative_to(ROOT) if path.is_relative_to(ROOT) else path.name)
+
+
 def command(path, build, *mode):
     generated = pathlib.Path(build) / "generated"
     return [CLANG, *mode, *language_flags(path), *platform_flags(build), "-fno-caret-diagnostics",
             f"-I{ROOT / 'src'}", f"-I{generated}", str(path)]
 
 
-def default_build():
-    return pathlib.Path(os.environ.get("VANTREL_MACOS_BUILD", ROOT / "build/macos-check"))

@@ -20,10 +20,11 @@ PACKAGES = {
     "nlohmann_json": ("nlohmann_json::nlohmann_json", "3.11.2"),
     "CLI11": ("CLI11::CLI11", "2.1.2"),
 }
-UTF8PROC = """Name: libutf8proc
+UTF8PROC = """libdir={folder}
+Name: libutf8proc
 Description: stand-in
 Version: 2.8.0
-Libs: -lutf8proc
+Libs: -L${{libdir}} -lutf8proc
 """
 
 
@@ -31,13 +32,14 @@ def main():
     folder, allowed = map(pathlib.Path, sys.argv[1:])
     compiler.require("llvm-nm-16", "ld64.lld-16")
     symbols.write_stubs(folder / "stubs", symbols.parse(allowed))
-    include = compiler.shared_headers(folder / "include")
+    symbols.write_utf8proc(folder / "lib")
+    include = compiler.shared_headers(folder / "macos/include")
     packages = folder / "packages"
     packages.mkdir(exist_ok=True)
     for name, (target, version) in PACKAGES.items():
         (packages / f"{name}Config.cmake").write_text(CONFIG.format(target=target, include=include), encoding="utf-8")
         (packages / f"{name}ConfigVersion.cmake").write_text(VERSION.format(version=version), encoding="utf-8")
-    (packages / "libutf8proc.pc").write_text(UTF8PROC, encoding="utf-8")
+    (packages / "libutf8proc.pc").write_text(UTF8PROC.format(folder=folder / "lib"), encoding="utf-8")
     print(*(flag for flag in compiler.platform_flags(folder) if not flag.startswith(("-target", compiler.TARGET))))
 
 

@@ -16,7 +16,18 @@ from typing import NamedTuple
 # Functions of the system that no header offers. The program finds them at run time; one
 # that is linked would keep it from starting where the function is missing.
 PRIVATE = re.compile(r"^_*(?:IOAVService|CGS[A-Z]|SLS[A-Z]|DisplayServices|CoreDisplay_|CGVirtualDisplay|IOAV)")
-CPLUSPLUS = re.compile(r"^__Z|^___cxa_|^___gxx_personality|^___clang_call_terminate|^__Unwind_")
+# What the rest of the program links too.
+SHARED = {"libSystem"}
+# What the compiler asks for by itself, and C++'s own library.
+COMPILERS = {
+    "libSystem": {"dyld_stub_binder", "__Unwind_Resume"},
+    "libobjc": {"__objc_empty_cache"},
+    "libcompiler-rt": {"___isPlatformVersionAtLeast"},
+}
+CPLUSPLUS = re.compile(r"^___dso_handle$|^__mh_execute_header$|^__Z|^___cxa_|^___gxx_personality|^___clang_call_terminate")
+# The library that the program brings with it has all its functions there.
+BROUGHT = re.compile(r"^_utf8proc_")
+UTF8PROC = "/usr/lib/x86_64-linux-gnu/libutf8proc.so"
 CLASS = "_OBJC_CLASS_$_"
 METACLASS = "_OBJC_METACLASS_$_"
 LIBCXX = ("/usr/lib/llvm-16/lib/libc++.so.1", "/usr/lib/llvm-16/lib/libc++abi.so.1")
@@ -55,16 +66,15 @@ def parse(path):
 
 
 def _nm(*arguments):
-    return subprocess.run(["llvm-nm-16", *map(str, arguments)], check=True, capture_output=True, text=True).stdout
-
-
-def names(*arguments):
-    return {line.split()[-1].split("@")[0] for line in _nm("-j", *arguments).splitlines() if line.strip() and not line.endswith(":")}
+    """Names in object files and libraries."""
+    command = ["llvm-nm-16", "-j", *map(str, arguments)]
+    lines = subprocess.run(command, check=True, capture_output=True, text=True).stdout.splitlines()
+    return {line.split("@")[0] for line in lines if line and not line.endswith(":")}
 
 
 def undefined(*files):
     """What the files need that none of them has; a metaclass counts as its class."""
-    needed = names("--undefined-only", *files) - names("--defined-only", *files)
+    needed = _nm("--undefined-only", *files) - _nm("--defined-only", *files)
     return {CLASS + name.removeprefix(METACLASS) if name.startswith(METACLASS) else name for name in needed}
 
 
@@ -74,11 +84,11 @@ def shown(name):
 
 def findings(needed, allowed, path, owners=None):
     """What is linked without being listed, listed without being linked (of the owners), or private."""
-    listed = {symbol.name for symbol in allowed}
+    listed = {symbol.name for symbol in allowed}.union(*COMPILERS.values())
     for name in sorted(needed):
         if PRIVATE.match(name.removeprefix(CLASS)):
             yield f"private, must not be linked: {shown(name)}"
-        elif name not in listed and not CPLUSPLUS.match(name):
+        elif name not in listed and not CPLUSPLUS.match(name) and not BROUGHT.match(name):
             yield f"not in {path}: {shown(name)}"
     for symbol, line in allowed.items():
         if symbol.name not in needed and (owners is None or symbol.owner in owners):
@@ -100,8 +110,8 @@ def _stub(path, install_name, symbols):
 def write_stubs(folder, allowed):
     """A text stub per section, for ld64.lld to link with."""
     folder = pathlib.Path(folder)
-    owned = {"libSystem": {"dyld_stub_binder"}, "libobjc": {"__objc_empty_cache"}, "libcompiler-rt": {"_standin"}}
-    owned["libc++"] = {"_" + name for library in LIBCXX for name in names("-D", "--defined-only", library)}
+    owned = {owner: set(names) for owner, names in COMPILERS.items()}
+    owned["libc++"] = {"_" + name for library in LIBCXX for name in _nm("-D", "--defined-only", library)}
     for symbol in allowed:
         owned.setdefault(symbol.owner, set()).add(symbol.name)
     for owner, symbols in owned.items():
@@ -110,3 +120,15 @@ def write_stubs(folder, allowed):
         else:
             install_name = f"/System/Library/Frameworks/{owner}.framework/{owner}"
             _stub(folder / f"{owner}.framework/{owner}.tbd", install_name, symbols)
+
+
+def write_utf8proc(folder):
+    """An archive with utf8proc's functions, which do nothing: on a Mac it is linked statically."""
+    folder = pathlib.Path(folder)
+    folder.mkdir(parents=True, exist_ok=True)
+    functions = sorted(name for name in _nm("-D", "--defined-only", UTF8PROC) if BROUGHT.match("_" + name))
+    source, code, archive = folder / "utf8proc.c", folder / "utf8proc.o", folder / "libutf8proc.a"
+    source.write_text("".join(f"void {name}(void);\nvoid {name}(void) {{}}\n" for name in functions), encoding="utf-8")
+    subprocess.run(["clang-16", "-target", "arm64-apple-macos13", "-c", source, "-o", code], check=True)
+    archive.unlink(missing_ok=True)
+    subprocess.run(["llvm-ar-16", "rcs", archive, code], check=True)

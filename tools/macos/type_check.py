@@ -1,27 +1,26 @@
 #!/usr/bin/env python3
-"""Compiles macOS sources, without output, against the stand-in headers of
-tests/macos/include: type_check.py FILE-OR-FOLDER...
+"""Compiles macOS sources against the stand-in headers of tests/macos/include:
+type_check.py FILE-OR-FOLDER...
 
-Prints the diagnostics and fails if there are any."""
+Prints the diagnostics, and fails if there are any. The objects are kept for symbol_check.py."""
 
-import argparse
 import sys
 
 import compiler
 import runner
 
 
-def check(path, build):
-    return runner.run(compiler.command(path, build, "-fsyntax-only", *compiler.WARNINGS))
+def object_of(path, build):
+    place = compiler.place(path, build, "types")
+    return place.with_name(place.name + ".o")
 
 
-def main():
-    arguments = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    arguments.add_argument("paths", nargs="+", metavar="FILE-OR-FOLDER")
-    arguments.add_argument("--build", default=compiler.default_build())
-    chosen = arguments.parse_args()
-    return runner.report("type check", check, chosen.paths, chosen.build)
+def check(path, build, *more):
+    output = object_of(path, build)
+    output.parent.mkdir(parents=True, exist_ok=True)
+    command = compiler.command(path, build, "-c", "-o", str(output), *compiler.WARNINGS, *more)
+    return runner.compile(command, path, build, "types", output)
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(runner.main("type check", __doc__, check))

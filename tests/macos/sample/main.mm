@@ -13,7 +13,7 @@
 - (void)applicationDidFinishLaunching:(NSNotification *)notification {
     self.item = [NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength];
     const std::string text = "x" + std::string(utf8proc_version());
-    self.item.button.title = @(text.c_str()) ?: @"";
+    if (NSString *title = [NSString stringWithUTF8String:text.c_str()]) self.item.button.title = title;
     if (SMAppService.mainAppService.status == SMAppServiceStatusEnabled) IOObjectRelease(IO_OBJECT_NULL);
     if (@available(macOS 14.0, *)) [NSApp activate];
 }

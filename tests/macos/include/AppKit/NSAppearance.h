@@ -17,6 +17,7 @@ APPKIT_EXTERN NSAppearanceName const NSAppearanceNameAccessibilityHighContrastVi
 @interface NSAppearance : NSObject <NSSecureCoding>
 @property(readonly, copy) NSAppearanceName name;
 @property(class, readonly, strong) NSAppearance *currentDrawingAppearance API_AVAILABLE(macos(11.0));
+// unsure: whether the block of `performAsCurrentDrawingAppearance:` is marked as not escaping
 - (void)performAsCurrentDrawingAppearance:(void(NS_NOESCAPE ^)(void))block API_AVAILABLE(macos(11.0));
 + (nullable NSAppearance *)appearanceNamed:(NSAppearanceName)name;
 @property(readonly) BOOL allowsVibrancy;

@@ -39,7 +39,8 @@ APPKIT_EXTERN NSRunLoopMode const NSEventTrackingRunLoopMode;
 @property(getter=isHidden, readonly) BOOL hidden;
 @property(getter=isRunning, readonly) BOOL running;
 - (void)deactivate;
-- (void)activateIgnoringOtherApps:(BOOL)ignoreOtherApps API_DEPRECATED("Use activate.", macos(10.0, 14.0)); // unsure: deprecated in 14.0 rather than "to be deprecated"
+// unsure: whether `activateIgnoringOtherApps:` is deprecated from 14.0 on or only will be; for 13.0 it is the same
+- (void)activateIgnoringOtherApps:(BOOL)ignoreOtherApps API_DEPRECATED("Use activate.", macos(10.0, 14.0));
 - (void)activate API_AVAILABLE(macos(14.0));
 - (void)yieldActivationToApplication:(NSRunningApplication *)application API_AVAILABLE(macos(14.0));
 - (void)finishLaunching;

@@ -17,7 +17,7 @@ typedef NS_ENUM(NSUInteger, NSButtonType) {
     NSButtonTypeAccelerator = 8,
     NSButtonTypeMultiLevelAccelerator = 9,
 };
-// unsure: the names Push, FlexiblePush, Toolbar, AccessoryBar, AccessoryBarAction, PushDisclosure and Badge need the headers of macOS 14 or later
+// unsure: that the bezel styles Push, FlexiblePush, Toolbar, AccessoryBar, AccessoryBarAction, PushDisclosure and Badge need headers of macOS 14
 typedef NS_ENUM(NSUInteger, NSBezelStyle) {
     NSBezelStyleAutomatic API_AVAILABLE(macos(14.0)) = 0,
     NSBezelStylePush = 1,
@@ -31,7 +31,7 @@ typedef NS_ENUM(NSUInteger, NSBezelStyle) {
     NSBezelStyleAccessoryBar = 13,
     NSBezelStylePushDisclosure = 14,
     NSBezelStyleBadge = 15,
-    // unsure: with the headers of macOS 14 these older names are still there and not yet deprecated for 13.0
+    // unsure: that the bezel styles' older names are still there in headers of macOS 14, and not deprecated for 13.0
     NSBezelStyleRounded = NSBezelStylePush,
     NSBezelStyleRegularSquare = NSBezelStyleFlexiblePush,
     NSBezelStyleTexturedRounded = NSBezelStyleToolbar,
@@ -96,6 +96,7 @@ typedef NS_ENUM(NSUInteger, NSBezelStyle) {
 @end
 
 @interface NSPopUpButton : NSButton
+// unsure: whether `initWithFrame:pullsDown:` is a designated initializer, which matters to subclasses only
 - (instancetype)initWithFrame:(NSRect)buttonFrame pullsDown:(BOOL)flag;
 @property(nullable, strong) NSMenu *menu;
 @property BOOL pullsDown;

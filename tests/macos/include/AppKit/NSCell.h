@@ -43,6 +43,7 @@ typedef NS_ENUM(NSUInteger, NSImageScaling) {
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
 @property NSInteger tag;
+// unsure: whether a cell's `title` is nullable
 @property(nullable, copy) NSString *title;
 @property(getter=isOpaque, readonly) BOOL opaque;
 @property(getter=isEnabled) BOOL enabled;

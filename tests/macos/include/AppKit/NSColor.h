@@ -6,6 +6,14 @@ NS_ASSUME_NONNULL_BEGIN
 
 typedef NSString *NSColorName NS_TYPED_EXTENSIBLE_ENUM;
 
+typedef NS_ENUM(NSInteger, NSColorSystemEffect) {
+    NSColorSystemEffectNone,
+    NSColorSystemEffectPressed,
+    NSColorSystemEffectDeepPressed,
+    NSColorSystemEffectDisabled,
+    NSColorSystemEffectRollover,
+};
+
 @interface NSColorSpace : NSObject <NSSecureCoding>
 @property(class, strong, readonly) NSColorSpace *sRGBColorSpace;
 @property(class, strong, readonly) NSColorSpace *deviceRGBColorSpace;
@@ -22,6 +30,7 @@ typedef NSString *NSColorName NS_TYPED_EXTENSIBLE_ENUM;
            dynamicProvider:(NSColor * (^)(NSAppearance *appearance))provider;
 - (NSColor *)colorWithAlphaComponent:(CGFloat)alpha;
 - (nullable NSColor *)colorUsingColorSpace:(NSColorSpace *)space;
+- (NSColor *)colorWithSystemEffect:(NSColorSystemEffect)systemEffect;
 - (nullable NSColor *)blendedColorWithFraction:(CGFloat)fraction ofColor:(NSColor *)color;
 - (void)set;
 - (void)setFill;

@@ -54,7 +54,7 @@ typedef NS_ENUM(NSInteger, NSImageSymbolScale) {
 @property(readonly, copy) NSArray<NSImageRep *> *representations;
 @property(getter=isValid, readonly) BOOL valid;
 @property(nullable, readonly, copy) NSData *TIFFRepresentation;
-// unsure: whether `image.template` is a property that Objective-C++ can name; both methods are there for certain
+// unsure: whether Objective-C++ can say `image.template`; both methods are there for certain
 - (BOOL)isTemplate;
 - (void)setTemplate:(BOOL)isTemplate;
 @property(nullable, copy) NSString *accessibilityDescription;

@@ -76,7 +76,7 @@ APPKIT_EXTERN NSNotificationName const NSMenuDidEndTrackingNotification;
 @interface NSMenuItem : NSObject <NSCopying, NSCoding, NSValidatedUserInterfaceItem, NSUserInterfaceItemIdentification,
                                   NSAccessibilityElement, NSAccessibility>
 + (NSMenuItem *)separatorItem;
-// unsure: sectionHeaderWithTitle: came with 14.0
+// unsure: that `sectionHeaderWithTitle:` came with 14.0
 + (instancetype)sectionHeaderWithTitle:(NSString *)title API_AVAILABLE(macos(14.0));
 - (instancetype)initWithTitle:(NSString *)string
                        action:(nullable SEL)selector

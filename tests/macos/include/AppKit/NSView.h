@@ -101,7 +101,7 @@ APPKIT_EXTERN NSNotificationName const NSViewBoundsDidChangeNotification;
 - (CALayer *)makeBackingLayer;
 @property NSViewLayerContentsRedrawPolicy layerContentsRedrawPolicy;
 @property BOOL canDrawSubviewsIntoLayer;
-// unsure: from which version on it is declared (14.0, usable before)
+// unsure: that `clipsToBounds` is declared by headers of macOS 14 and later only, usable before
 @property BOOL clipsToBounds;
 @property CGFloat alphaValue;
 @property(nullable, copy) NSShadow *shadow;

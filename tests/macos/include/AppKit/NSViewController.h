@@ -16,7 +16,7 @@ typedef NSString *NSNibName;
 - (void)loadView;
 - (void)viewDidLoad;
 @property(readonly, getter=isViewLoaded) BOOL viewLoaded;
-// unsure: loadViewIfNeeded and viewIfLoaded were first declared with the headers of macOS 14, usable before
+// unsure: that `loadViewIfNeeded` is declared by headers of macOS 14 and later only, usable before
 - (void)loadViewIfNeeded;
 - (void)viewWillAppear;
 - (void)viewDidAppear;

@@ -79,6 +79,7 @@ static const NSModalResponse NSModalResponseCancel = 0;
                             backing:(NSBackingStoreType)backingStoreType
                               defer:(BOOL)flag
                              screen:(nullable NSScreen *)screen;
+// unsure: whether a window's `initWithCoder:` is unavailable
 - (nullable instancetype)initWithCoder:(NSCoder *)coder NS_UNAVAILABLE;
 + (instancetype)windowWithContentViewController:(NSViewController *)contentViewController;
 @property(copy) NSString *title;
@@ -126,7 +127,8 @@ static const NSModalResponse NSModalResponseCancel = 0;
 - (void)orderWindow:(NSWindowOrderingMode)place relativeTo:(NSInteger)otherWindow;
 - (void)orderFrontRegardless;
 @property(getter=isMiniaturized, readonly) BOOL miniaturized;
-@property(nullable, copy) NSColor *backgroundColor; // unsure: nullable (null_resettable) rather than nonnull
+// unsure: whether `backgroundColor` is nullable, null_resettable or nonnull
+@property(null_resettable, copy) NSColor *backgroundColor;
 @property(getter=isMovable) BOOL movable;
 @property(getter=isMovableByWindowBackground) BOOL movableByWindowBackground;
 @property BOOL hidesOnDeactivate;

@@ -42,6 +42,7 @@ typedef unsigned int dispatch_qos_class_t;
 #define USEC_PER_SEC 1000000ull
 #define NSEC_PER_USEC 1000ull
 
+// The real one is a structure; nothing but its address matters.
 extern char _dispatch_main_q;
 static inline __attribute__((always_inline)) dispatch_queue_t dispatch_get_main_queue(void) {
     return STANDIN_DISPATCH_GLOBAL(dispatch_queue_t, _dispatch_main_q);

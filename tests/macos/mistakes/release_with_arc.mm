@@ -1,0 +1,10 @@
+// type check: 'release' is unavailable
+#import <AppKit/AppKit.h>
+
+void close(NSWindow *window) {
+#ifdef MISTAKE
+    [window release];
+#else
+    [window close];
+#endif
+}
