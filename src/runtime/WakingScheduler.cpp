@@ -25,9 +25,7 @@ class WakingGate : public Gate {
         const std::lock_guard lock(waker->mutex);
         if (waker->wake) waker->wake();
     }
-    Wake wait(std::optional<MonotonicTime> deadline) override {
-        return inner_->wait(deadline);
-    }
+    Wake wait(std::optional<MonotonicTime> deadline) override { return inner_->wait(deadline); }
 
   private:
     std::unique_ptr<Gate> inner_;
