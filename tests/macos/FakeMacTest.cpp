@@ -65,7 +65,8 @@ TEST_F(FakeMacDeathTest, StopsForAnObjectOfTheRegistryThatNobodyHolds) {
 }
 
 TEST_F(FakeMacDeathTest, StopsForNullAndForAnotherType) {
-    EXPECT_DEATH(CFRelease(nullptr), "with null");
+    const CFHandle<CFStringRef> nothing;
+    EXPECT_DEATH(CFRelease(nothing.get()), "with null");
     EXPECT_DEATH(CFStringGetLength(static_cast<CFStringRef>(CFTypeRef(kCFBooleanTrue))), "another type");
 }
 

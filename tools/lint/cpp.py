@@ -12,7 +12,7 @@ _SKIPPED = re.compile(
     """,
     re.VERBOSE | re.DOTALL,
 )
-_INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"\n]+)[>"]', re.MULTILINE)
+_INCLUDE = re.compile(r'^[ \t]*#[ \t]*(?:include|import)[ \t]*([<"])([^>"\n]+)[>"]', re.MULTILINE)
 
 
 def code(text):

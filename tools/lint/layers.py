@@ -1,8 +1,9 @@
 """Includes agree with the rooms' LINKS lists in src/CMakeLists.txt.
 
 A room may include itself and what it links, directly or through another room.
-Only src/app and the tests may name an implementation of the platform, and only
-the room that draws with a toolkit may name that toolkit."""
+Only src/app and the tests may name an implementation of the platform, only the
+room that draws with a toolkit may name that toolkit, and only the Mac's own rooms
+name what is the Mac's."""
 
 import posixpath
 import re
@@ -13,10 +14,26 @@ from tree import Finding
 ROOMS = "src/CMakeLists.txt"
 # The room that chooses the implementation of the platform, and the implementations.
 APPLICATION = "src/app"
-IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix")
+IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix", "src/platform/macos")
 
 # The one room for each toolkit, by how its headers begin.
 TOOLKITS = {"Q": "src/ui/qt"}
+
+# The rooms that may name the Mac's interfaces, and how its headers begin.
+MAC_ROOMS = ("src/platform/macos",)
+MAC_HEADERS = (
+    "AppKit/",
+    "CoreFoundation/",
+    "CoreGraphics/",
+    "Foundation/",
+    "IOKit/",
+    "ServiceManagement/",
+    "dispatch/",
+    "dlfcn.h",
+    "objc/",
+    "os/",
+    "pthread/",
+)
 
 # What a library of the system is included as, and what has to be linked for it.
 LIBRARIES = {
@@ -86,6 +103,8 @@ def _objection(header, is_angled, room, allowed, room_of, folder):
     owner = next((home for prefix, home in TOOLKITS.items() if is_angled and header.startswith(prefix)), folder)
     if folder != owner:
         return f"only {owner} may include <{header}>"
+    if is_angled and header.startswith(MAC_HEADERS) and folder not in MAC_ROOMS:
+        return f"only {' and '.join(MAC_ROOMS)} may include <{header}>"
     library = next((target for prefix, target in LIBRARIES.items() if header.startswith(prefix)), "")
     if library != "":
         return "" if library in allowed else f"{room} does not link what <{header}> belongs to"
