@@ -108,7 +108,7 @@ void* lookUp(std::size_t library, const char* name) { return fails("dlsym") ? nu
 // The linker leads everybody here, a sanitizer too, before it is ready: calls that
 // are not for the Mac's libraries go on without touching anything.
 #ifdef __clang__
-#define NOT_INSTRUMENTED __attribute__((no_sanitize("address", "thread", "undefined")))
+#define NOT_INSTRUMENTED __attribute__((disable_sanitizer_instrumentation))
 #else
 #define NOT_INSTRUMENTED __attribute__((no_sanitize_address, no_sanitize_undefined))
 #endif
