@@ -29,6 +29,9 @@ class AppKitControl : public layout::Control {
     // What the keyboard goes to and assistive technology names.
     virtual NSView* _Nonnull operatedView() const { return view_; }
 
+    // Whether the keyboard can go to it.
+    bool takesKeyboard() const;
+
     void apply(const ui::Node& node) final;
     void setFrame(const layout::Rect& frame) override;
 
@@ -43,6 +46,7 @@ class AppKitControl : public layout::Control {
     void showWhole(bool isCut, const std::string& text);
 
   private:
+    void setToolTip(const std::string& text);
     void showContextMenu(const std::vector<std::string>& items);
 
     layout::Stage& stage_;
@@ -57,6 +61,10 @@ class AppKitControl : public layout::Control {
 // Of a control that AppKit draws: its size without the room for its shadow.
 layout::WidthRange naturalWidths(NSView* _Nonnull view);
 int naturalHeight(NSView* _Nonnull view);
+// Of a label's text and the margin that the label keeps around it, in lines of a width.
+NSSize textSize(NSTextField* _Nonnull label, double width);
+// More than any text is wide or high.
+inline constexpr double unlimited = 10'000;
 // The view's place so that what is seen of it fills the rectangle.
 void place(NSView* _Nonnull view, const layout::Rect& rectangle);
 NSRect rectangleOf(const layout::Rect& rectangle);

@@ -10,10 +10,19 @@ namespace vantrel::appkit {
 namespace {
 
 // AppKit may be at work in the view further up the stack, also in a loop of its own
-// that tracks the pointer: the view has to outlive that.
+// that tracks the pointer: until that has ended, the view stays, unseen, in its window.
 void bury(NSView* view) {
-    [view removeFromSuperview];
-    [view performSelector:@selector(self) withObject:nil afterDelay:0 inModes:@[ NSDefaultRunLoopMode ]];
+    NSWindow* const window = view.window;
+    NSResponder* const focused = window.firstResponder;
+    // Otherwise the keyboard would go to whatever comes next.
+    if ([focused isKindOfClass:NSView.class] && [static_cast<NSView*>(focused) isDescendantOf:view]) {
+        [window makeFirstResponder:nil];
+    }
+    view.hidden = YES;
+    [view performSelector:@selector(removeFromSuperview)
+               withObject:nil
+               afterDelay:0
+                  inModes:@[ NSDefaultRunLoopMode ]];
 }
 
 }  // namespace
@@ -33,12 +42,23 @@ void AppKitControl::apply(const ui::Node& node) {
     if (!node.accessibility.description.empty()) {
         operated.accessibilityHelp = textOf(node.accessibility.description);
     }
-    view_.toolTip = node.help.empty() ? nil : textOf(node.help);
+    setToolTip(node.help);
     if ([operated isKindOfClass:NSControl.class]) {
         static_cast<NSControl*>(operated).enabled = node.isEnabled;
     }
     showContextMenu(node.contextMenu);
     show(node);
+}
+
+bool AppKitControl::takesKeyboard() const {
+    const auto* text = std::get_if<ui::Text>(&node_.element);
+    return ui::isInteractive(node_) || (text != nullptr && text->isSelectable);
+}
+
+void AppKitControl::setToolTip(const std::string& text) {
+    NSString* const tip = text.empty() ? nil : textOf(text);
+    view_.toolTip = tip;
+    operatedView().toolTip = tip;
 }
 
 void AppKitControl::showContextMenu(const std::vector<std::string>& items) {
@@ -55,8 +75,7 @@ void AppKitControl::showContextMenu(const std::vector<std::string>& items) {
 void AppKitControl::setFrame(const layout::Rect& frame) { place(view_, frame); }
 
 void AppKitControl::showWhole(bool isCut, const std::string& text) {
-    if (!node_.help.empty()) return;
-    view_.toolTip = isCut ? textOf(text) : nil;
+    if (node_.help.empty()) setToolTip(isCut ? text : std::string());
 }
 
 layout::WidthRange naturalWidths(NSView* view) {
@@ -66,12 +85,16 @@ layout::WidthRange naturalWidths(NSView* view) {
 
 int naturalHeight(NSView* view) { return static_cast<int>(std::ceil(view.intrinsicContentSize.height)); }
 
+NSSize textSize(NSTextField* label, double width) {
+    return [label.cell cellSizeForBounds:NSMakeRect(0, 0, std::min(width, unlimited), unlimited)];
+}
+
 void place(NSView* view, const layout::Rect& rectangle) {
     view.frame = [view frameForAlignmentRect:rectangleOf(rectangle)];
 }
 
 NSRect rectangleOf(const layout::Rect& rectangle) {
-    return NSMakeRect(rectangle.x, rectangle.y, rectangle.width, rectangle.height);
+    return NSMakeRect(rectangle.x, rectangle.y, std::max(0, rectangle.width), std::max(0, rectangle.height));
 }
 
 }  // namespace vantrel::appkit

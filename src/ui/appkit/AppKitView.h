@@ -25,6 +25,8 @@ class AppKitView : public ui::View, private layout::Canvas {
     ui::Size fittingSize() const override;
 
     NSView* _Nonnull view() const { return view_; }
+    // For a window that has made an order of its own.
+    void orderKeys();
     // After each time that its contents have changed.
     void onFinish(std::function<void()> action) { renderer_.onFinish(std::move(action)); }
 
@@ -39,6 +41,7 @@ class AppKitView : public ui::View, private layout::Canvas {
 
     FlippedView* _Nonnull view_;
     layout::BoxRenderer renderer_;
+    id<NSObject> _Nonnull colorsObserver_;
     Lifeline lifeline_;
 };
 

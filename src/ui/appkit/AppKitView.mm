@@ -21,9 +21,10 @@ void orderSubviews(NSView* superview, const std::vector<NSView*>& children) {
     if (![superview.subviews isEqualToArray:wanted]) superview.subviews = wanted;
 }
 
-// Appends the views below the box in the order of the tree.
+// Appends the views below the box that the keyboard goes to, in the order of the tree.
+// Not those around them: a scroll view hands its place in the row on to its contents.
 void collect(const layout::Box& box, std::vector<NSView*>& all) {
-    all.push_back(controlOf(box).operatedView());
+    if (controlOf(box).takesKeyboard()) all.push_back(controlOf(box).operatedView());
     std::vector<NSView*> children;
     for (const auto& child : box.children()) {
         children.push_back(controlOf(*child).view());
@@ -37,9 +38,25 @@ void collect(const layout::Box& box, std::vector<NSView*>& all) {
 AppKitView::AppKitView()
     : view_([[FlippedView alloc] initWithFrame:NSZeroRect]), renderer_(static_cast<layout::Canvas&>(*this)) {
     [view_ onResize:[this] { renderer_.layOut(); }];
+    const std::function<void()> refresh = lifeline_.guard([this] { renderer_.refresh(); });
+    // Of another accent, say. What draws itself has to be told.
+    colorsObserver_ =
+        [NSNotificationCenter.defaultCenter addObserverForName:NSSystemColorsDidChangeNotification
+                                                        object:nil
+                                                         queue:NSOperationQueue.mainQueue
+                                                    usingBlock:^(NSNotification*) {
+                                                      refresh();
+                                                    }];
 }
 
-AppKitView::~AppKitView() { [view_ onResize:nullptr]; }
+AppKitView::~AppKitView() {
+    [NSNotificationCenter.defaultCenter removeObserver:colorsObserver_];
+    [view_ onResize:nullptr];
+}
+
+void AppKitView::orderKeys() {
+    if (const layout::Box* const root = renderer_.root()) order(*root);
+}
 
 void AppKitView::onEvent(std::function<void(ui::ElementID, const ui::Event&)> handler) {
     renderer_.onEvent(std::move(handler));

@@ -11,13 +11,15 @@ class ButtonControl : public AppKitControl {
     ~ButtonControl() override;
 
     layout::WidthRange widths() const override;
-    int height(int) const override { return naturalHeight(view()); }
+    int height(int width) const override;
     void setFrame(const layout::Rect& frame) override;
 
   protected:
     void show(const ui::Node& node) override;
 
   private:
+    bool isSymbolOnly() const;
+
     Action* _Nonnull action_;
 };
 

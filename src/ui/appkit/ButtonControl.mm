@@ -10,6 +10,8 @@ namespace {
 
 // What is beside it gives way first, unless the title is very long. In points.
 constexpr int widthKept = 120;
+// A symbol alone is smaller than what a pointer hits easily.
+constexpr int symbolSide = 22;
 
 NSCellImagePosition imagePosition(const ui::Button& button) {
     if (button.symbol.empty()) return NSNoImage;
@@ -44,10 +46,18 @@ void ButtonControl::show(const ui::Node& node) {
     button.bezelColor = shown.style == ui::Button::Style::prominent ? NSColor.controlAccentColor : nil;
 }
 
+bool ButtonControl::isSymbolOnly() const { return std::get<ui::Button>(node().element).title.empty(); }
+
 layout::WidthRange ButtonControl::widths() const {
     const int natural = naturalWidths(view()).natural;
-    const bool isSymbolOnly = std::get<ui::Button>(node().element).title.empty();
-    return {isSymbolOnly ? natural : std::min(natural, widthKept), natural};
+    if (!isSymbolOnly()) return {std::min(natural, widthKept), natural};
+    const int width = std::max(natural, symbolSide);
+    return {width, width};
+}
+
+int ButtonControl::height(int) const {
+    const int natural = naturalHeight(view());
+    return isSymbolOnly() ? std::max(natural, symbolSide) : natural;
 }
 
 void ButtonControl::setFrame(const layout::Rect& frame) {

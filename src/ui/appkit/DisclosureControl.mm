@@ -29,10 +29,7 @@ DisclosureControl::DisclosureControl(layout::Stage& stage, ui::ElementID element
       triangle_([[NSButton alloc] initWithFrame:NSZeroRect]),
       title_([[VantrelUnfocusedButton alloc] initWithFrame:NSZeroRect]),
       action_([[VantrelAction alloc] initWithFunction:[this] {
-          const bool isOpen = std::get<ui::Disclosure>(this->node().element).isOpen;
-          // The node says whether it opens.
-          showState();
-          send(ui::Toggled{!isOpen});
+          send(ui::Toggled{!std::get<ui::Disclosure>(this->node().element).isOpen});
       }]) {
     triangle_.bezelStyle = NSBezelStyleDisclosure;
     triangle_.buttonType = NSButtonTypePushOnPushOff;

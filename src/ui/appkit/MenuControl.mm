@@ -1,6 +1,7 @@
 #include "ui/appkit/MenuControl.h"
 
 #include <algorithm>
+#include <cmath>
 #include <variant>
 
 #include "ui/appkit/Look.h"
@@ -14,6 +15,8 @@ namespace {
 // position.
 constexpr NSInteger faceTag = -2;
 constexpr int leastWidth = 60;
+// For the arrow beside a symbol, and what is around both.
+constexpr int roomBesideSymbol = 28;
 
 }  // namespace
 
@@ -34,10 +37,13 @@ void MenuControl::show(const ui::Node& node) {
 void MenuControl::showMenu(const ui::Menu& menu) {
     setOptions(menu.options);
     setFace(menu.title, nil);
+    // Things to do are done, not chosen.
+    mark(menu_, std::nullopt);
 }
 
 void MenuControl::showPicker(const ui::Picker& picker) {
     button().bordered = NO;
+    button().imagePosition = NSImageOnly;
     setOptions(picker.options);
     setFace({}, Look::symbol(picker.symbol, ui::Font::body));
     mark(menu_, picker.selected);
@@ -54,6 +60,8 @@ void MenuControl::showPicker(const ui::Picker& picker) {
 void MenuControl::setOptions(const std::vector<std::string>& options) {
     // An open menu stays open.
     if (menu_.numberOfItems > 0 && options == options_) return;
+    // Open, it would offer what isn't there any more.
+    [menu_ cancelTracking];
     options_ = options;
     note_.clear();
     menu_ = menuOf(options, lifeline().guard([this](std::size_t option) { choose(option); }));
@@ -78,7 +86,11 @@ void MenuControl::choose(std::size_t option) {
 
 layout::WidthRange MenuControl::widths() const {
     const int natural = naturalWidths(view()).natural;
-    return {std::min(natural, leastWidth), natural};
+    if (!std::holds_alternative<ui::Picker>(node().element)) return {std::min(natural, leastWidth), natural};
+    // However wide the options in its menu are.
+    const double symbol = [menu_ itemWithTag:faceTag].image.size.width;
+    const int width = std::min(natural, static_cast<int>(std::ceil(symbol)) + roomBesideSymbol);
+    return {width, width};
 }
 
 }  // namespace vantrel::appkit

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ui/appkit/Action.h"
+#include "ui/appkit/AppKitControl.h"
 #include "ui/appkit/Look.h"
 #include "ui/appkit/Text.h"
 
@@ -32,7 +33,7 @@ NSView* noteView(const std::string& note) {
     label.font = Look::font(ui::Font::caption);
     label.textColor = NSColor.secondaryLabelColor;
     label.selectable = NO;
-    const NSSize size = [label.cell cellSizeForBounds:NSMakeRect(0, 0, noteWidth, CGFLOAT_MAX)];
+    const NSSize size = textSize(label, noteWidth);
     label.frame = NSMakeRect(noteIndent, noteMargin, noteWidth, size.height);
     NSView* const view = [[NSView alloc]
         initWithFrame:NSMakeRect(0, 0, noteWidth + 2 * noteIndent, size.height + 2 * noteMargin)];
@@ -61,7 +62,7 @@ void mark(NSMenu* menu, std::optional<std::size_t> chosen) {
 }
 
 void setNote(NSMenu* menu, const std::string& note) {
-    for (NSMenuItem* const item in menu.itemArray) {
+    for (NSMenuItem* const item in [menu.itemArray copy]) {
         if (item.tag == noteTag) [menu removeItem:item];
     }
     if (note.empty()) return;

@@ -45,6 +45,8 @@ void PickerControl::show(const ui::Node& node) {
     label_.textColor = node.isEnabled ? NSColor.labelColor : NSColor.disabledControlTextColor;
     // An open menu stays open.
     if (button_.menu == nil || options_ != picker().options) {
+        // Open, it would offer what isn't there any more.
+        [button_.menu cancelTracking];
         options_ = picker().options;
         button_.menu = menuOf(options_, lifeline().guard([this](std::size_t option) { choose(option); }));
     }
@@ -61,7 +63,8 @@ int PickerControl::buttonWidth(int width) const {
     const int label = naturalWidths(label_).natural;
     const int wanted = naturalWidths(button_).natural;
     // Its natural width as long as that leaves the label half of it all.
-    return std::clamp(wanted, std::min(wanted, leastButtonWidth), std::max(width - gap - label, width / 2));
+    const int least = std::min(wanted, leastButtonWidth);
+    return std::clamp(wanted, least, std::max({least, width - gap - label, width / 2}));
 }
 
 layout::WidthRange PickerControl::widths() const {

@@ -2,10 +2,24 @@
 
 #include "ui/appkit/FlippedView.h"
 
+// Its scroller lies over the contents, whose width it must not change, also when the
+// system comes to prefer another one because a mouse was plugged in.
+@interface VantrelScrollView : NSScrollView
+@end
+
+@implementation VantrelScrollView
+
+- (void)setScrollerStyle:(NSScrollerStyle)style {
+    (void)style;
+    [super setScrollerStyle:NSScrollerStyleOverlay];
+}
+
+@end
+
 namespace vantrel::appkit {
 
 ScrollControl::ScrollControl(layout::Stage& stage, ui::ElementID element)
-    : AppKitControl(stage, element, [[NSScrollView alloc] initWithFrame:NSZeroRect]),
+    : AppKitControl(stage, element, [[VantrelScrollView alloc] initWithFrame:NSZeroRect]),
       document_([[FlippedView alloc] initWithFrame:NSZeroRect]) {
     NSScrollView* const scroll = static_cast<NSScrollView*>(view());
     scroll.drawsBackground = NO;
@@ -13,7 +27,7 @@ ScrollControl::ScrollControl(layout::Stage& stage, ui::ElementID element)
     scroll.hasVerticalScroller = YES;
     scroll.hasHorizontalScroller = NO;
     scroll.autohidesScrollers = YES;
-    // Over the contents, whose width it must not change.
+    scroll.automaticallyAdjustsContentInsets = NO;
     scroll.scrollerStyle = NSScrollerStyleOverlay;
     scroll.horizontalScrollElasticity = NSScrollElasticityNone;
     scroll.documentView = document_;

@@ -15,8 +15,7 @@ constexpr int gap = 12;
 constexpr int leastLabelWidth = 48;
 
 int heightIn(NSTextField* label, int width) {
-    return static_cast<int>(
-        std::ceil([label.cell cellSizeForBounds:NSMakeRect(0, 0, width, CGFLOAT_MAX)].height));
+    return static_cast<int>(std::ceil(textSize(label, width).height));
 }
 
 }  // namespace
@@ -25,10 +24,8 @@ SwitchControl::SwitchControl(layout::Stage& stage, ui::ElementID element)
     : AppKitControl(stage, element, [[FlippedView alloc] initWithFrame:NSZeroRect]),
       label_([NSTextField wrappingLabelWithString:@""]),
       switch_([[NSSwitch alloc] initWithFrame:NSZeroRect]),
-      action_([[VantrelAction alloc] initWithFunction:[this] {
-          showState();
-          send(ui::Toggled{!std::get<ui::Switch>(this->node().element).isOn});
-      }]) {
+      action_([[VantrelAction alloc]
+          initWithFunction:[this] { send(ui::Toggled{!std::get<ui::Switch>(this->node().element).isOn}); }]) {
     label_.font = Look::font(ui::Font::body);
     label_.selectable = NO;
     // The switch says it.
@@ -62,7 +59,7 @@ int SwitchControl::labelWidth(int width) const {
 layout::WidthRange SwitchControl::widths() const {
     const int own = naturalWidths(switch_).natural;
     if (!expands()) return {own, own};
-    const int label = naturalWidths(label_).natural;
+    const int label = static_cast<int>(std::ceil(textSize(label_, unlimited).width));
     return {own + gap + std::min(label, leastLabelWidth), own + gap + label};
 }
 

@@ -11,6 +11,8 @@ namespace {
 
 // Enough to show something, in points.
 constexpr int leastWidth = 48;
+// What a label keeps free on each side of its text.
+constexpr int margin = 2;
 
 }  // namespace
 
@@ -25,8 +27,9 @@ void TextControl::show(const ui::Node& node) {
     label.selectable = text.isSelectable;
     label.usesSingleLineMode = !text.wraps;
     label.maximumNumberOfLines = text.wraps ? 0 : 1;
-    label.lineBreakMode = text.wraps ? NSLineBreakByWordWrapping : NSLineBreakByTruncatingTail;
+    // Before what says how: it knows clipping only.
     label.cell.wraps = text.wraps;
+    label.lineBreakMode = text.wraps ? NSLineBreakByWordWrapping : NSLineBreakByTruncatingTail;
     label.allowsDefaultTighteningForTruncation = YES;
     // Setting it would drop what a person has selected.
     NSString* const wanted = textOf(text.text);
@@ -34,11 +37,12 @@ void TextControl::show(const ui::Node& node) {
 }
 
 NSSize TextControl::sizeIn(double width) const {
-    return [field().cell cellSizeForBounds:NSMakeRect(0, 0, width, CGFLOAT_MAX)];
+    const NSSize size = textSize(field(), width + 2 * margin);
+    return NSMakeSize(size.width - 2 * margin, size.height);
 }
 
 layout::WidthRange TextControl::widths() const {
-    const int natural = static_cast<int>(std::ceil(sizeIn(CGFLOAT_MAX).width));
+    const int natural = static_cast<int>(std::ceil(sizeIn(unlimited).width));
     return {std::min(natural, leastWidth), natural};
 }
 
@@ -50,7 +54,8 @@ void TextControl::setBehindExpanding(bool isBehind) {
 }
 
 void TextControl::setFrame(const layout::Rect& frame) {
-    AppKitControl::setFrame(frame);
+    // What is seen of it fills the frame.
+    view().frame = NSInsetRect(rectangleOf(frame), -margin, 0);
     const auto& text = std::get<ui::Text>(node().element);
     showWhole(!text.wraps && frame.width < widths().natural, text.text);
 }

@@ -26,6 +26,11 @@
     return YES;
 }
 
+// It has no layer's contents to update: it is drawn.
+- (BOOL)wantsUpdateLayer {
+    return NO;
+}
+
 - (NSView*)hitTest:(NSPoint)point {
     return [super hitTest:point] != nil ? self : nil;
 }
