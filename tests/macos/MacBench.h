@@ -15,7 +15,8 @@ namespace vantrel::macos {
 
 class MacBench {
   public:
-    explicit MacBench(simulated::Desk desk = test::usualDesk()) : computer(std::move(desk), scheduler, loop) {}
+    explicit MacBench(simulated::Desk desk = test::usualDesk())
+        : computer(std::move(desk), scheduler, loop) {}
     MacBench(const MacBench&) = delete;
     MacBench& operator=(const MacBench&) = delete;
     ~MacBench() { scheduler.finishThreads(); }

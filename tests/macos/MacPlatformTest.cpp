@@ -89,8 +89,8 @@ TEST_P(MacPlatformProbe, PrintsLogsAndTakesWhatItDoesOnTheSimulatedPlatform) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Desks, MacPlatformProbe,
-                         testing::Values("default", "hostile", "inputs", "large", "slow", "stubborn",
-                                         "twins", "wake"),
+                         testing::Values("default", "hostile", "inputs", "large", "slow", "stubborn", "twins",
+                                         "wake"),
                          [](const auto& info) { return info.param; });
 
 }  // namespace

@@ -67,10 +67,10 @@ typedef unsigned long CFOptionFlags;
 typedef unsigned long CFHashCode;
 typedef long CFIndex;
 
-typedef const void *CFTypeRef;
-typedef const struct CF_BRIDGED_TYPE(NSString) __CFString *CFStringRef;
+typedef const void* CFTypeRef;
+typedef const struct CF_BRIDGED_TYPE(NSString) __CFString* CFStringRef;
 typedef CFTypeRef CFPropertyListRef;
-typedef const struct __CFAllocator *CFAllocatorRef;
+typedef const struct __CFAllocator* CFAllocatorRef;
 
 typedef struct {
     CFIndex location;

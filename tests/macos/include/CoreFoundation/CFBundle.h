@@ -7,7 +7,7 @@
 CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
-typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFBundle *CFBundleRef;
+typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFBundle* CFBundleRef;
 
 CFBundleRef _Nullable CFBundleGetMainBundle(void) CF_RETURNS_NOT_RETAINED;
 // `value` is the answer for a key that is not in the table; no table is

@@ -6,12 +6,12 @@
 CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
-typedef const struct CF_BRIDGED_TYPE(NSNumber) __CFBoolean *CFBooleanRef;
+typedef const struct CF_BRIDGED_TYPE(NSNumber) __CFBoolean* CFBooleanRef;
 extern const CFBooleanRef kCFBooleanTrue;
 extern const CFBooleanRef kCFBooleanFalse;
 CFTypeID CFBooleanGetTypeID(void);
 
-typedef CF_ENUM(CFIndex, CFNumberType){
+typedef CF_ENUM(CFIndex, CFNumberType) {
     kCFNumberSInt8Type = 1,
     kCFNumberSInt16Type = 2,
     kCFNumberSInt32Type = 3,
@@ -31,14 +31,14 @@ typedef CF_ENUM(CFIndex, CFNumberType){
     kCFNumberMaxType = 16,
 };
 
-typedef const struct CF_BRIDGED_TYPE(NSNumber) __CFNumber *CFNumberRef;
+typedef const struct CF_BRIDGED_TYPE(NSNumber) __CFNumber* CFNumberRef;
 
 CFTypeID CFNumberGetTypeID(void);
 CFNumberRef _Nullable CFNumberCreate(CFAllocatorRef _Nullable allocator, CFNumberType theType,
-                                     const void *valuePtr) CF_RETURNS_RETAINED;
+                                     const void* valuePtr) CF_RETURNS_RETAINED;
 CFNumberType CFNumberGetType(CFNumberRef number);
 // False when the value doesn't fit into that type without loss.
-Boolean CFNumberGetValue(CFNumberRef number, CFNumberType theType, void *_Nullable valuePtr);
+Boolean CFNumberGetValue(CFNumberRef number, CFNumberType theType, void* _Nullable valuePtr);
 
 CF_ASSUME_NONNULL_END
 CF_EXTERN_C_END

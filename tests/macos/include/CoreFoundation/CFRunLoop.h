@@ -10,22 +10,25 @@ CF_ASSUME_NONNULL_BEGIN
 
 typedef CFStringRef CFRunLoopMode;
 
-typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFRunLoop *CFRunLoopRef;
-typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFRunLoopSource *CFRunLoopSourceRef;
-typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFRunLoopObserver *CFRunLoopObserverRef;
-typedef struct CF_BRIDGED_MUTABLE_TYPE(NSTimer) __CFRunLoopTimer *CFRunLoopTimerRef;
+typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFRunLoop* CFRunLoopRef;
+typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFRunLoopSource* CFRunLoopSourceRef;
+typedef struct CF_BRIDGED_MUTABLE_TYPE(id) __CFRunLoopObserver* CFRunLoopObserverRef;
+typedef struct CF_BRIDGED_MUTABLE_TYPE(NSTimer) __CFRunLoopTimer* CFRunLoopTimerRef;
 
-typedef CF_ENUM(SInt32, CFRunLoopRunResult){
+typedef CF_ENUM(SInt32, CFRunLoopRunResult) {
     kCFRunLoopRunFinished = 1,
     kCFRunLoopRunStopped = 2,
     kCFRunLoopRunTimedOut = 3,
     kCFRunLoopRunHandledSource = 4,
 };
 
-typedef CF_OPTIONS(CFOptionFlags, CFRunLoopActivity){
-    kCFRunLoopEntry = (1UL << 0),         kCFRunLoopBeforeTimers = (1UL << 1),
-    kCFRunLoopBeforeSources = (1UL << 2), kCFRunLoopBeforeWaiting = (1UL << 5),
-    kCFRunLoopAfterWaiting = (1UL << 6),  kCFRunLoopExit = (1UL << 7),
+typedef CF_OPTIONS(CFOptionFlags, CFRunLoopActivity) {
+    kCFRunLoopEntry = (1UL << 0),
+    kCFRunLoopBeforeTimers = (1UL << 1),
+    kCFRunLoopBeforeSources = (1UL << 2),
+    kCFRunLoopBeforeWaiting = (1UL << 5),
+    kCFRunLoopAfterWaiting = (1UL << 6),
+    kCFRunLoopExit = (1UL << 7),
     kCFRunLoopAllActivities = 0x0FFFFFFFU,
 };
 
@@ -43,50 +46,50 @@ void CFRunLoopAddTimer(CFRunLoopRef rl, CFRunLoopTimerRef timer, CFRunLoopMode m
 
 typedef struct {
     CFIndex version;
-    void *_Nullable info;
-    const void *_Nullable (*_Nullable retain)(const void *info);
-    void (*_Nullable release)(const void *info);
-    CFStringRef _Nullable (*_Nullable copyDescription)(const void *info);
-    Boolean (*_Nullable equal)(const void *info1, const void *info2);
-    CFHashCode (*_Nullable hash)(const void *info);
-    void (*_Nullable schedule)(void *_Nullable info, CFRunLoopRef rl, CFRunLoopMode mode);
-    void (*_Nullable cancel)(void *_Nullable info, CFRunLoopRef rl, CFRunLoopMode mode);
-    void (*_Nullable perform)(void *_Nullable info);
+    void* _Nullable info;
+    const void* _Nullable (*_Nullable retain)(const void* info);
+    void (*_Nullable release)(const void* info);
+    CFStringRef _Nullable (*_Nullable copyDescription)(const void* info);
+    Boolean (*_Nullable equal)(const void* info1, const void* info2);
+    CFHashCode (*_Nullable hash)(const void* info);
+    void (*_Nullable schedule)(void* _Nullable info, CFRunLoopRef rl, CFRunLoopMode mode);
+    void (*_Nullable cancel)(void* _Nullable info, CFRunLoopRef rl, CFRunLoopMode mode);
+    void (*_Nullable perform)(void* _Nullable info);
 } CFRunLoopSourceContext;
 
 CFRunLoopSourceRef _Nullable CFRunLoopSourceCreate(CFAllocatorRef _Nullable allocator, CFIndex order,
-                                                   CFRunLoopSourceContext *context) CF_RETURNS_RETAINED;
+                                                   CFRunLoopSourceContext* context) CF_RETURNS_RETAINED;
 void CFRunLoopSourceInvalidate(CFRunLoopSourceRef source);
 void CFRunLoopSourceSignal(CFRunLoopSourceRef source);
 
 typedef struct {
     CFIndex version;
-    void *_Nullable info;
-    const void *_Nullable (*_Nullable retain)(const void *_Nullable info);
-    void (*_Nullable release)(const void *_Nullable info);
-    CFStringRef _Nullable (*_Nullable copyDescription)(const void *_Nullable info);
+    void* _Nullable info;
+    const void* _Nullable (*_Nullable retain)(const void* _Nullable info);
+    void (*_Nullable release)(const void* _Nullable info);
+    CFStringRef _Nullable (*_Nullable copyDescription)(const void* _Nullable info);
 } CFRunLoopObserverContext;
 typedef void (*CFRunLoopObserverCallBack)(CFRunLoopObserverRef observer, CFRunLoopActivity activity,
-                                          void *_Nullable info);
+                                          void* _Nullable info);
 
 CFRunLoopObserverRef _Nullable CFRunLoopObserverCreate(
     CFAllocatorRef _Nullable allocator, CFOptionFlags activities, Boolean repeats, CFIndex order,
-    CFRunLoopObserverCallBack callout, CFRunLoopObserverContext *_Nullable context) CF_RETURNS_RETAINED;
+    CFRunLoopObserverCallBack callout, CFRunLoopObserverContext* _Nullable context) CF_RETURNS_RETAINED;
 void CFRunLoopObserverInvalidate(CFRunLoopObserverRef observer);
 
 typedef struct {
     CFIndex version;
-    void *_Nullable info;
-    const void *_Nullable (*_Nullable retain)(const void *_Nullable info);
-    void (*_Nullable release)(const void *_Nullable info);
-    CFStringRef _Nullable (*_Nullable copyDescription)(const void *_Nullable info);
+    void* _Nullable info;
+    const void* _Nullable (*_Nullable retain)(const void* _Nullable info);
+    void (*_Nullable release)(const void* _Nullable info);
+    CFStringRef _Nullable (*_Nullable copyDescription)(const void* _Nullable info);
 } CFRunLoopTimerContext;
-typedef void (*CFRunLoopTimerCallBack)(CFRunLoopTimerRef timer, void *_Nullable info);
+typedef void (*CFRunLoopTimerCallBack)(CFRunLoopTimerRef timer, void* _Nullable info);
 
-CFRunLoopTimerRef _Nullable CFRunLoopTimerCreate(CFAllocatorRef _Nullable allocator, CFAbsoluteTime fireDate,
-                                                 CFTimeInterval interval, CFOptionFlags flags, CFIndex order,
-                                                 CFRunLoopTimerCallBack callout,
-                                                 CFRunLoopTimerContext *_Nullable context) CF_RETURNS_RETAINED;
+CFRunLoopTimerRef _Nullable CFRunLoopTimerCreate(
+    CFAllocatorRef _Nullable allocator, CFAbsoluteTime fireDate, CFTimeInterval interval, CFOptionFlags flags,
+    CFIndex order, CFRunLoopTimerCallBack callout,
+    CFRunLoopTimerContext* _Nullable context) CF_RETURNS_RETAINED;
 CFAbsoluteTime CFRunLoopTimerGetNextFireDate(CFRunLoopTimerRef timer);
 void CFRunLoopTimerSetNextFireDate(CFRunLoopTimerRef timer, CFAbsoluteTime fireDate);
 void CFRunLoopTimerInvalidate(CFRunLoopTimerRef timer);

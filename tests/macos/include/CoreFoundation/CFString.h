@@ -19,20 +19,20 @@ enum : CFStringEncoding {
 #else
 #define CFSTR(text) (__CFStringMakeConstantString("" text ""))
 #endif
-CFStringRef __CFStringMakeConstantString(const char *text);
+CFStringRef __CFStringMakeConstantString(const char* text);
 
 CFTypeID CFStringGetTypeID(void);
 
 // Null when the bytes are not text of that encoding.
-CFStringRef _Nullable CFStringCreateWithBytes(CFAllocatorRef _Nullable alloc, const UInt8 *_Nullable bytes,
+CFStringRef _Nullable CFStringCreateWithBytes(CFAllocatorRef _Nullable alloc, const UInt8* _Nullable bytes,
                                               CFIndex numBytes, CFStringEncoding encoding,
                                               Boolean isExternalRepresentation) CF_RETURNS_RETAINED;
 CFStringRef _Nullable CFStringCreateWithCharacters(CFAllocatorRef _Nullable alloc,
-                                                   const UniChar *_Nullable chars,
+                                                   const UniChar* _Nullable chars,
                                                    CFIndex numChars) CF_RETURNS_RETAINED;
 // In UTF-16 code units.
 CFIndex CFStringGetLength(CFStringRef theString);
-void CFStringGetCharacters(CFStringRef theString, CFRange range, UniChar *_Nullable buffer);
+void CFStringGetCharacters(CFStringRef theString, CFRange range, UniChar* _Nullable buffer);
 
 CF_ASSUME_NONNULL_END
 CF_EXTERN_C_END

@@ -11,17 +11,17 @@ typedef unsigned int boolean_t;
 typedef uint32_t CGDirectDisplayID;
 typedef float CGGammaValue;
 
-CGError CGGetOnlineDisplayList(uint32_t maxDisplays, CGDirectDisplayID *_Nullable onlineDisplays,
-                               uint32_t *_Nullable displayCount);
+CGError CGGetOnlineDisplayList(uint32_t maxDisplays, CGDirectDisplayID* _Nullable onlineDisplays,
+                               uint32_t* _Nullable displayCount);
 
 uint32_t CGDisplayGammaTableCapacity(CGDirectDisplayID display);
 CGError CGSetDisplayTransferByTable(CGDirectDisplayID display, uint32_t tableSize,
-                                    const CGGammaValue *_Nullable redTable,
-                                    const CGGammaValue *_Nullable greenTable,
-                                    const CGGammaValue *_Nullable blueTable);
+                                    const CGGammaValue* _Nullable redTable,
+                                    const CGGammaValue* _Nullable greenTable,
+                                    const CGGammaValue* _Nullable blueTable);
 CGError CGGetDisplayTransferByTable(CGDirectDisplayID display, uint32_t capacity,
-                                    CGGammaValue *_Nullable redTable, CGGammaValue *_Nullable greenTable,
-                                    CGGammaValue *_Nullable blueTable, uint32_t *_Nullable sampleCount);
+                                    CGGammaValue* _Nullable redTable, CGGammaValue* _Nullable greenTable,
+                                    CGGammaValue* _Nullable blueTable, uint32_t* _Nullable sampleCount);
 void CGDisplayRestoreColorSyncSettings(void);
 
 CF_ASSUME_NONNULL_END

@@ -3,7 +3,7 @@
 
 #include <CoreFoundation/CFBase.h>
 
-typedef CF_ENUM(int32_t, CGError){
+typedef CF_ENUM(int32_t, CGError) {
     kCGErrorSuccess = 0,
     kCGErrorFailure = 1000,
     kCGErrorIllegalArgument = 1001,

@@ -6,7 +6,7 @@
 CF_EXTERN_C_BEGIN
 CF_ASSUME_NONNULL_BEGIN
 
-typedef struct os_log_s *os_log_t;
+typedef struct os_log_s* os_log_t;
 
 typedef uint8_t os_log_type_t;
 enum : os_log_type_t {
@@ -18,24 +18,24 @@ enum : os_log_type_t {
 };
 
 // The same log again for the same names; never freed.
-os_log_t os_log_create(const char *subsystem, const char *category);
+os_log_t os_log_create(const char* subsystem, const char* category);
 
 // On the platform the compiler encodes the arguments, and only clang can. Elsewhere
 // a function takes their place; it knows the one format that is used here.
 #ifdef __APPLE__
-extern void *_Nonnull __dso_handle;
-void _os_log_impl(void *dso, os_log_t log, os_log_type_t type, const char *format, uint8_t *buffer,
+extern void* _Nonnull __dso_handle;
+void _os_log_impl(void* dso, os_log_t log, os_log_type_t type, const char* format, uint8_t* buffer,
                   uint32_t size);
-#define os_log_with_type(log, type, format, ...)                                                       \
-    __extension__({                                                                                    \
-        __attribute__((aligned(16))) uint8_t _os_log_buffer[__builtin_os_log_format_buffer_size(       \
-            format, ##__VA_ARGS__)];                                                                   \
-        _os_log_impl(&__dso_handle, (log), (type), format,                                             \
-                     (uint8_t *)__builtin_os_log_format(_os_log_buffer, format, ##__VA_ARGS__),        \
-                     (uint32_t)sizeof(_os_log_buffer));                                                \
+#define os_log_with_type(log, type, format, ...)                                               \
+    __extension__({                                                                            \
+        __attribute__((aligned(16)))                                                           \
+        uint8_t _os_log_buffer[__builtin_os_log_format_buffer_size(format, ##__VA_ARGS__)];    \
+        _os_log_impl(&__dso_handle, (log), (type), format,                                     \
+                     (uint8_t*)__builtin_os_log_format(_os_log_buffer, format, ##__VA_ARGS__), \
+                     (uint32_t)sizeof(_os_log_buffer));                                        \
     })
 #else
-void _os_log_standin(os_log_t log, os_log_type_t type, const char *format, const char *text);
+void _os_log_standin(os_log_t log, os_log_type_t type, const char* format, const char* text);
 #define os_log_with_type(log, type, format, text) _os_log_standin((log), (type), format, text)
 #endif
 
