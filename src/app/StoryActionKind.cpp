@@ -16,7 +16,7 @@ bool contains(const std::vector<std::string_view>& fields, std::string_view fiel
     return std::ranges::find(fields, field) != fields.end();
 }
 
-std::string shown(double level) {
+std::string shownLevel(double level) {
     std::array<char, 32> text{};
     const int length = std::snprintf(text.data(), text.size(), "%g", level);
     return std::string(text.data(), static_cast<std::size_t>(length));
@@ -89,8 +89,8 @@ std::string StoryActionKind::describe(const StoryStep& step, const simulated::De
     if (step.input) text += " 0x" + text::upperHex(*step.input);
     if (kind.takes("code")) text += " 0x" + text::upperHex(step.code);
     if (kind.takes("value")) text += " " + std::to_string(step.value);
-    if (step.brightness) text += " brightness " + shown(*step.brightness);
-    if (step.contrast) text += " contrast " + shown(*step.contrast);
+    if (step.brightness) text += " brightness " + shownLevel(*step.brightness);
+    if (step.contrast) text += " contrast " + shownLevel(*step.contrast);
     if (kind.takes("mode")) text += " " + model::rawValue(step.mode);
     if (kind.takes("flags")) text += " 0x" + text::lowerHex(step.flags);
     if (kind.takes("refusal")) text.append(" ").append(refusalWord(step.refusal));

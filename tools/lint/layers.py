@@ -1,8 +1,9 @@
 """Includes agree with the rooms' LINKS lists in src/CMakeLists.txt.
 
 A room may include itself and what it links, directly or through another room.
-Only src/app and the tests may name an implementation of the platform, and only
-the room that draws with a toolkit may name that toolkit."""
+Only src/app and the tests may name an implementation of the platform, only the
+room that draws with a toolkit may name that toolkit, and only the Mac's own rooms
+name what is the Mac's."""
 
 import posixpath
 import re
@@ -19,9 +20,9 @@ IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix", "src/platform
 _MACOS = ("src/platform/macos", "src/ui/appkit")
 TOOLKITS = {
     "Q": ("src/ui/qt",),
-    **{framework + "/": _MACOS for framework in (
-        "AppKit", "CoreFoundation", "CoreGraphics", "Foundation", "IOKit", "ServiceManagement",
-        "dispatch", "mach", "os")},
+    **{header: _MACOS for header in (
+        "AppKit/", "CoreFoundation/", "CoreGraphics/", "Foundation/", "IOKit/", "ServiceManagement/", "dispatch/",
+        "dlfcn.h", "mach/", "objc/", "os/", "pthread/")},
 }
 
 # What a library of the system is included as, and what has to be linked for it.

@@ -7,11 +7,14 @@ from tree import Finding
 
 # The implementations of the seam, and what measures real time for a living.
 EXEMPT = ("src/runtime/RealScheduler.", "src/platform/simulated/VirtualTime.", "bench/")
-# Tests that need the thing itself, and what they may do.
+# Sources that need the thing itself, and what they may do.
 EXCEPTIONS = {
+    "src/platform/macos/MacRunLoop.cpp": "reads a clock",  # the one that the run loop's timers are set in
     "tests/runtime/RealSchedulerTest.cpp": "reads a clock",  # compares with it
     "tests/simulated/VirtualTimeTest.cpp": "starts a thread",  # one that virtual time doesn't know
     "tests/platform/PrivateFunctionsTest.cpp": "starts a thread",  # first uses that really meet
+    "tests/macos/include/CoreFoundation/CFDate.h": "reads a clock",  # declares how
+    "tests/macos/fake/FakeRunLoop.cpp": "reads a clock",  # defines it, in the scheduler's time
 }
 # A standard engine with a seed gives the same numbers everywhere; this header is
 # where tests and fuzzers get seeds that they show and replay.
@@ -22,6 +25,7 @@ RULES = [
     (r"\b(?:system|steady|high_resolution|utc|tai|gps|file)_clock\s*::\s*now\b", "reads a clock"),
     (r"(?<![\w.>:])(?:::|std::)?time\s*\(\s*(?:0|NULL|nullptr|&\s*\w+)\s*\)|\bstd::clock\s*\(", "reads a clock"),
     (r"\b(?:gettimeofday|clock_gettime|timespec_get|mach_absolute_time)\s*\(", "reads a clock"),
+    (r"\b(?:CFAbsoluteTimeGetCurrent|CACurrentMediaTime|mach_continuous_time)\s*\(", "reads a clock"),
     (r"\b(?:sleep_for|sleep_until|usleep|nanosleep|clock_nanosleep|qWait|qSleep)\s*\(", "sleeps"),
     (r"(?<![\w.>:])(?:::)sleep\s*\(|\bQThread\b", "sleeps"),
     (r"\bstd\s*::\s*j?thread\b(?!\s*::\s*id\b)|\bstd\s*::\s*async\b|\bpthread_create\b", "starts a thread"),

@@ -10,8 +10,8 @@ vantrel_room(platform LINKS vantrel_runtime)
 vantrel_room(simulated FOLDER platform/simulated
              LINKS vantrel_platform nlohmann_json::nlohmann_json)
 vantrel_room(posix FOLDER platform/posix LINKS vantrel_platform)
-vantrel_room(qt FOLDER ui/qt LINKS vantrel_runtime Qt6::Widgets Qt6::Svg)
 vantrel_room(macos FOLDER platform/macos LINKS vantrel_platform)
+vantrel_room(qt FOLDER ui/qt LINKS vantrel_runtime Qt6::Widgets Qt6::Svg)
 vantrel_room(app LINKS vantrel_simulated vantrel_posix vantrel_qt CLI11::CLI11 $<$<PLATFORM_ID:Darwin>:vantrel_macos>)
 """
 
@@ -52,10 +52,15 @@ class LayersTest(unittest.TestCase):
         self.assertEqual(reasons("src/app/main.cpp", "#include <QWidget>\n"), ["only src/ui/qt may include <QWidget>"])
         self.assertEqual(len(reasons("src/ui/qt/QtView.cpp", "#include <QDBusConnection>\n")), 1)
 
-    def test_a_framework_of_the_mac_is_named_by_its_rooms_only(self):
-        include = "#import <Foundation/Foundation.h>\n#include <os/log.h>\n"
-        self.assertEqual(reasons("src/platform/macos/MacLog.cpp", include), [])
-        self.assertEqual(len(reasons("src/platform/Log.cpp", include)), 2)
+    def test_what_is_the_macs_is_named_by_its_own_rooms_only(self):
+        text = "#include <CoreFoundation/CoreFoundation.h>\n#import <AppKit/AppKit.h>\n#include <dlfcn.h>\n"
+        self.assertEqual(reasons("src/platform/macos/MacScreens.mm", text), [])
+        self.assertEqual(len(reasons("src/platform/Log.cpp", text)), 3)
+        (reason,) = reasons("src/app/main.cpp", "#import <Foundation/Foundation.h>\n")
+        self.assertEqual(reason, "only src/platform/macos and src/ui/appkit may include <Foundation/Foundation.h>")
+
+    def test_an_import_is_an_include(self):
+        self.assertEqual(len(reasons("src/platform/macos/MacScreens.mm", '#import "app/Main.h"\n')), 1)
 
     def test_a_room_may_be_linked_on_one_system_only(self):
         self.assertEqual(reasons("src/app/MacComputer.cpp", '#include "platform/macos/MacLog.h"\n'), [])

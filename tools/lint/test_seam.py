@@ -16,6 +16,7 @@ BAD = [
     "clock_gettime(CLOCK_MONOTONIC, &t);",
     "std::this_thread::sleep_for(1ms);",
     "std::this_thread::sleep_until(t);",
+    "const double now = CFAbsoluteTimeGetCurrent();",
     "usleep(50);",
     "::sleep(1);",
     "QTest::qWait(50);",

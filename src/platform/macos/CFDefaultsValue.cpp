@@ -48,9 +48,9 @@ CFHandle<CFTypeRef> makeObject(const DefaultsDictionary& dictionary) {
     }
     const auto isMissing = [](const CFHandle<CFTypeRef>& object) { return !object; };
     if (std::any_of(owned.begin(), owned.end(), isMissing)) return {};
-    return CFHandle<CFTypeRef>(CFDictionaryCreate(
-        kCFAllocatorDefault, keys.data(), values.data(), static_cast<CFIndex>(keys.size()),
-        &kCFTypeDictionaryKeyCallBacks, &kCFTypeDictionaryValueCallBacks));
+    return CFHandle<CFTypeRef>(
+        CFDictionaryCreate(kCFAllocatorDefault, keys.data(), values.data(), static_cast<CFIndex>(keys.size()),
+                           &kCFTypeDictionaryKeyCallBacks, &kCFTypeDictionaryValueCallBacks));
 }
 
 }  // namespace

@@ -90,8 +90,8 @@ std::optional<TransferTable> MacDisplayServices::transferTable(DisplayID display
     const std::vector<float> channel(capacity);
     TransferTable table{channel, channel, channel};
     std::uint32_t samples = 0;
-    const CGError error = CGGetDisplayTransferByTable(display, capacity, table.red.data(),
-                                                      table.green.data(), table.blue.data(), &samples);
+    const CGError error = CGGetDisplayTransferByTable(display, capacity, table.red.data(), table.green.data(),
+                                                      table.blue.data(), &samples);
     if (error != kCGErrorSuccess) return std::nullopt;
     for (auto* values : {&table.red, &table.green, &table.blue}) values->resize(std::min(samples, capacity));
     return table;

@@ -11,11 +11,16 @@ namespace {
 
 os_log_type_t typeOf(platform::LogLevel level) {
     switch (level) {
-        case platform::LogLevel::debug: return OS_LOG_TYPE_DEBUG;
-        case platform::LogLevel::info: return OS_LOG_TYPE_INFO;
-        case platform::LogLevel::standard: return OS_LOG_TYPE_DEFAULT;
-        case platform::LogLevel::error: return OS_LOG_TYPE_ERROR;
-        case platform::LogLevel::fault: return OS_LOG_TYPE_FAULT;
+        case platform::LogLevel::debug:
+            return OS_LOG_TYPE_DEBUG;
+        case platform::LogLevel::info:
+            return OS_LOG_TYPE_INFO;
+        case platform::LogLevel::standard:
+            return OS_LOG_TYPE_DEFAULT;
+        case platform::LogLevel::error:
+            return OS_LOG_TYPE_ERROR;
+        case platform::LogLevel::fault:
+            return OS_LOG_TYPE_FAULT;
     }
     return OS_LOG_TYPE_DEFAULT;
 }

@@ -13,7 +13,8 @@ constexpr std::size_t longestName = 63;
 
 qos_class_t classOf(runtime::QualityOfService quality) {
     switch (quality) {
-        case runtime::QualityOfService::userInitiated: return QOS_CLASS_USER_INITIATED;
+        case runtime::QualityOfService::userInitiated:
+            return QOS_CLASS_USER_INITIATED;
     }
     return QOS_CLASS_DEFAULT;
 }

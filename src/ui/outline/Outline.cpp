@@ -1,7 +1,8 @@
 #include "ui/outline/Outline.h"
 
-#include <array>
-#include <charconv>
+#include <limits>
+#include <locale>
+#include <sstream>
 #include <string_view>
 #include <vector>
 
@@ -22,11 +23,14 @@ std::string quoted(std::string_view text) {
     return result + '"';
 }
 
-// Without the locale's decimal comma.
+// Without the locale's decimal comma, and with all digits that are surely the number's.
+// (std::to_chars has no fractions on macOS 13.0.)
 std::string number(double value) {
-    std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-    return {digits.data(), end};
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text.precision(std::numeric_limits<double>::digits10);
+    text << value;
+    return text.str();
 }
 
 std::string list(const std::vector<std::string>& options, std::optional<std::size_t> selected) {

@@ -129,8 +129,8 @@ void CFStringGetCharacters(CFStringRef text, CFRange range, UniChar* buffer) {
 
 CFDataRef CFDataCreate(CFAllocatorRef, const UInt8* bytes, CFIndex length) {
     if (fails("CFDataCreate")) return nullptr;
-    return static_cast<CFDataRef>(born(
-        new Data(std::string(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length)))));
+    return static_cast<CFDataRef>(
+        born(new Data(std::string(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length)))));
 }
 CFIndex CFDataGetLength(CFDataRef data) {
     return static_cast<CFIndex>(live<Data>(data, dataType).bytes.size());
@@ -169,9 +169,9 @@ Boolean CFNumberGetValue(CFNumberRef number, CFNumberType type, void* place) {
 CFDictionaryRef CFDictionaryCreate(CFAllocatorRef, const void** keys, const void** values, CFIndex count,
                                    const CFDictionaryKeyCallBacks* keyCallBacks,
                                    const CFDictionaryValueCallBacks* valueCallBacks) {
-    vantrel::runtime::require(keyCallBacks == &kCFTypeDictionaryKeyCallBacks &&
-                                  valueCallBacks == &kCFTypeDictionaryValueCallBacks,
-                              "a dictionary that does not retain what it holds");
+    vantrel::runtime::require(
+        keyCallBacks == &kCFTypeDictionaryKeyCallBacks && valueCallBacks == &kCFTypeDictionaryValueCallBacks,
+        "a dictionary that does not retain what it holds");
     if (fails("CFDictionaryCreate")) return nullptr;
     Dictionary::Entries entries;
     for (CFIndex place = 0; place < count; ++place) {

@@ -29,6 +29,7 @@ extern "C" {
 
 CGError CGGetOnlineDisplayList(uint32_t most, CGDirectDisplayID* list, uint32_t* count) {
     if (fails("CGGetOnlineDisplayList")) return kCGErrorFailure;
+    if (list != nullptr) FakeMac::current().list();
     const auto online = displays().onlineDisplays();
     if (list == nullptr) {
         *count = static_cast<uint32_t>(online.size());

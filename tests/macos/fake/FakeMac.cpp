@@ -15,10 +15,10 @@ std::atomic<FakeMac*> alive = nullptr;
 FakeMac::FakeMac(simulated::SimulatedPlatform& computer, runtime::Scheduler& scheduler)
     : desk_(computer.platform(sink_)), runLoop_(std::make_unique<FakeRunLoop>(scheduler)) {
     runtime::require(alive.exchange(this) == nullptr, "two Macs at the same time");
-    desk_.displays.onReconfiguration([this, existence = std::weak_ptr(existence_)](
-                                         platform::DisplayID display, std::uint32_t flags) {
-        if (!existence.expired()) announce(display, flags);
-    });
+    desk_.displays.onReconfiguration(
+        [this, existence = std::weak_ptr(existence_)](platform::DisplayID display, std::uint32_t flags) {
+            if (!existence.expired()) announce(display, flags);
+        });
 }
 
 FakeMac::~FakeMac() {

@@ -8,6 +8,7 @@
 #include <CoreGraphics/CoreGraphics.h>
 #include <IOKit/IOKitLib.h>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -57,6 +58,12 @@ class FakeMac {
     // What every registry entry shows under a key, instead of what the desk says.
     std::map<std::string, CFHandle<CFTypeRef>>& properties() { return properties_; }
 
+    // Happens once, between the question how many displays there are and the next.
+    void beforeListing(std::function<void()> event) { beforeListing_ = std::move(event); }
+    void list() {
+        if (const auto event = std::exchange(beforeListing_, nullptr)) event();
+    }
+
     // Tells those who registered, at once and on this thread.
     void announce(platform::DisplayID display, std::uint32_t flags);
     void addListener(CGDisplayReconfigurationCallBack callback, void* info);
@@ -81,6 +88,7 @@ class FakeMac {
     std::map<std::string, CFHandle<CFTypeRef>> preferences_;
     std::optional<std::map<std::string, std::string>> translations_{std::in_place};
     std::map<std::string, CFHandle<CFTypeRef>> properties_;
+    std::function<void()> beforeListing_;
     std::shared_ptr<int> existence_ = std::make_shared<int>(0);
 
     mutable std::mutex mutex_;

@@ -100,9 +100,7 @@ void* open(const char* path) {
     return nullptr;
 }
 
-void* lookUp(std::size_t library, const char* name) {
-    return fails("dlsym") ? nullptr : find(library, name);
-}
+void* lookUp(std::size_t library, const char* name) { return fails("dlsym") ? nullptr : find(library, name); }
 
 }  // namespace
 }  // namespace vantrel::macos::fake
@@ -124,7 +122,8 @@ NOT_INSTRUMENTED void* __wrap_dlopen(const char* path, int mode) {
     static constexpr char system[] = "/System/Library/";
     std::size_t same = 0;
     while (path != nullptr && system[same] != 0 && path[same] == system[same]) ++same;
-    return path != nullptr && system[same] == 0 ? vantrel::macos::fake::open(path) : __real_dlopen(path, mode);
+    return path != nullptr && system[same] == 0 ? vantrel::macos::fake::open(path)
+                                                : __real_dlopen(path, mode);
 }
 
 NOT_INSTRUMENTED void* __wrap_dlsym(void* library, const char* name) {

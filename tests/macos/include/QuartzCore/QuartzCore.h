@@ -14,7 +14,6 @@ FOUNDATION_EXPORT CAMediaTimingFunctionName const kCAMediaTimingFunctionEaseInEa
 + (instancetype)functionWithName:(CAMediaTimingFunctionName)name;
 @end
 
-FOUNDATION_EXPORT double CACurrentMediaTime(void);
 
 @interface CALayer : NSObject <NSSecureCoding>
 + (instancetype)layer;

@@ -1,0 +1,42 @@
+#include <gtest/gtest.h>
+
+#include "macos/CFBench.h"
+
+namespace vantrel::macos {
+namespace {
+
+using namespace std::string_literals;
+
+class CFTextTest : public CFBench {};
+
+std::string through(const std::string& text) { return CFText::read(CFText::make(text).get()); }
+
+TEST_F(CFTextTest, KeepsTextsOfAnyLength) {
+    for (const std::size_t length : {0U, 1U, 127U, 128U, 1'000'000U}) {
+        const std::string text(length, 'x');
+        EXPECT_EQ(through(text), text);
+    }
+}
+
+TEST_F(CFTextTest, KeepsCharactersOfEveryLengthAndTheNULAmongThem) {
+    const std::string text = "\0 a\x7F é ߿ € \xEF\xBF\xBD \xF0\x9F\x96\xA5 \xF4\x8F\xBF\xBF"s;
+    EXPECT_EQ(through(text), text);
+    EXPECT_EQ(CFStringGetLength(CFText::make("a€\xF0\x9F\x96\xA5").get()), 4);
+}
+
+TEST_F(CFTextTest, RepairsWhatIsNoUTF8) { EXPECT_EQ(through("a\xFF\xC3"), "a\xEF\xBF\xBD\xEF\xBF\xBD"); }
+
+TEST_F(CFTextTest, ReplacesHalfASurrogatePair) {
+    const std::string replaced = "\xEF\xBF\xBD";
+    EXPECT_EQ(CFText::read(textOf(u"a\xD83D").get()), "a" + replaced);
+    EXPECT_EQ(CFText::read(textOf(u"\xDDA5z").get()), replaced + "z");
+    EXPECT_EQ(CFText::read(textOf(u"\xD83D\xD83D\xDDA5").get()), replaced + "\xF0\x9F\x96\xA5");
+}
+
+TEST_F(CFTextTest, IsNullWhenTheSystemMakesNone) {
+    failNext("CFStringCreateWithBytes");
+    EXPECT_FALSE(CFText::make("text"));
+}
+
+}  // namespace
+}  // namespace vantrel::macos

@@ -1,0 +1,51 @@
+#include <gtest/gtest.h>
+#include <string>
+
+#include "macos/fake/Threads.h"
+#include "platform/macos/MacScheduler.h"
+#include "platform/simulated/VirtualTime.h"
+#include "runtime/SerialQueue.h"
+
+namespace vantrel::macos {
+namespace {
+
+using namespace std::chrono_literals;
+using runtime::QualityOfService;
+
+class MacSchedulerTest : public testing::Test {
+  protected:
+    fake::ThreadTraits traitsOf(std::string name) {
+        fake::ThreadTraits traits;
+        scheduler.startThread(std::move(name), QualityOfService::userInitiated,
+                              [&traits] { traits = fake::threadTraits(); });
+        scheduler.finishThreads();
+        return traits;
+    }
+
+    simulated::VirtualTime time;
+    MacScheduler scheduler{time};
+};
+
+TEST_F(MacSchedulerTest, GivesAThreadItsNameAndItsQuality) {
+    const fake::ThreadTraits traits = traitsOf("ddc Alder");
+    EXPECT_EQ(traits.name, "ddc Alder");
+    EXPECT_EQ(traits.quality, QOS_CLASS_USER_INITIATED);
+    EXPECT_EQ(traits.priority, 0);
+}
+
+TEST_F(MacSchedulerTest, ShortensANameThatTheSystemWouldRefuse) {
+    EXPECT_EQ(traitsOf(std::string(100, 'x')).name, std::string(63, 'x'));
+}
+
+TEST_F(MacSchedulerTest, HasTheTimesTheGatesAndTheSleepOfTheOneInside) {
+    const auto wall = scheduler.wallNow();
+    scheduler.sleepFor(3s);
+    EXPECT_EQ(scheduler.now(), time.now());
+    EXPECT_EQ(scheduler.wallNow() - wall, 3s);
+    const auto gate = scheduler.makeGate();
+    gate->open();
+    EXPECT_EQ(gate->wait(std::nullopt), runtime::Wake::opened);
+}
+
+}  // namespace
+}  // namespace vantrel::macos
