@@ -20,7 +20,7 @@ PRIVATE = re.compile(r"^_*(?:IOAVService|CGS[A-Z]|SLS[A-Z]|DisplayServices|CoreD
 SHARED = {"libSystem"}
 # What the compiler asks for by itself, and C++'s own library.
 COMPILERS = {
-    "libSystem": {"dyld_stub_binder", "__Unwind_Resume"},
+    "libSystem": {"dyld_stub_binder", "__Unwind_Resume", "___cxa_atexit"},
     "libobjc": {"__objc_empty_cache"},
     "libcompiler-rt": {"___isPlatformVersionAtLeast"},
 }

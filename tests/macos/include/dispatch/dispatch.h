@@ -1,5 +1,6 @@
 // Stand-in for <dispatch/dispatch.h>: queues, time, once, semaphores and timers.
 #pragma once
+#include <pthread/qos.h>
 #include <stdbool.h>
 #include <stddef.h>
 #include <stdint.h>
@@ -48,14 +49,6 @@ static inline __attribute__((always_inline)) dispatch_queue_t dispatch_get_main_
     return STANDIN_DISPATCH_GLOBAL(dispatch_queue_t, _dispatch_main_q);
 }
 #define DISPATCH_QUEUE_SERIAL NULL
-
-enum {
-    QOS_CLASS_USER_INTERACTIVE = 0x21,
-    QOS_CLASS_USER_INITIATED = 0x19,
-    QOS_CLASS_DEFAULT = 0x15,
-    QOS_CLASS_UTILITY = 0x11,
-    QOS_CLASS_BACKGROUND = 0x09,
-};
 
 dispatch_queue_t dispatch_get_global_queue(intptr_t identifier, uintptr_t flags);
 __attribute__((ns_returns_retained)) dispatch_queue_t dispatch_queue_create(
