@@ -17,7 +17,8 @@ COMMON = compiler.ROOT / "tests/macos/analysis/common.h"
 HANDLES = ("io_object_t", "io_iterator_t", "io_service_t", "io_registry_entry_t", "io_connect_t")
 STATUSES = ("kern_return_t", "IOReturn")
 NAMES = (*(f"-D{name}=zx_handle_t" for name in HANDLES), *(f"-D{name}=zx_status_t" for name in STATUSES))
-CHECKERS = ("-Xclang", "-analyzer-output=text", "-Xclang", "-analyzer-checker=fuchsia.HandleChecker,nullability,optin.osx")
+CHECKERS = ("-Xclang", "-analyzer-output=text",
+            "-Xclang", "-analyzer-checker=fuchsia.HandleChecker,nullability,optin.osx")
 
 
 def common_headers(path, build):

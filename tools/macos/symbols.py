@@ -20,11 +20,12 @@ PRIVATE = re.compile(r"^_*(?:IOAVService|CGS[A-Z]|SLS[A-Z]|DisplayServices|CoreD
 SHARED = {"libSystem"}
 # What the compiler asks for by itself, and C++'s own library.
 COMPILERS = {
-    "libSystem": {"dyld_stub_binder", "__Unwind_Resume"},
+    "libSystem": {"dyld_stub_binder", "__Unwind_Resume", "___cxa_atexit"},
     "libobjc": {"__objc_empty_cache"},
     "libcompiler-rt": {"___isPlatformVersionAtLeast"},
 }
-CPLUSPLUS = re.compile(r"^___dso_handle$|^__mh_execute_header$|^__Z|^___cxa_|^___gxx_personality|^___clang_call_terminate")
+CPLUSPLUS = re.compile(
+    r"^___dso_handle$|^__mh_execute_header$|^__Z|^___cxa_|^___gxx_personality|^___clang_call_terminate")
 # The library that the program brings with it has all its functions there.
 BROUGHT = re.compile(r"^_utf8proc_")
 UTF8PROC = "/usr/lib/x86_64-linux-gnu/libutf8proc.so"
@@ -99,7 +100,8 @@ def _stub(path, install_name, symbols):
     path.parent.mkdir(parents=True, exist_ok=True)
     plain = sorted(name for name in symbols if not name.startswith(CLASS))
     classes = sorted(name.removeprefix(CLASS) for name in symbols if name.startswith(CLASS))
-    text = f"--- !tapi-tbd\ntbd-version: 4\ntargets: {TARGETS}\ninstall-name: '{install_name}'\nexports:\n  - targets: {TARGETS}\n"
+    text = f"--- !tapi-tbd\ntbd-version: 4\ntargets: {TARGETS}\ninstall-name: '{install_name}'\n"
+    text += f"exports:\n  - targets: {TARGETS}\n"
     if plain:
         text += "    symbols: [ " + ", ".join(f"'{name}'" for name in plain) + " ]\n"
     if classes:

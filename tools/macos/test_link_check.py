@@ -76,7 +76,8 @@ class LinkCheckTest(unittest.TestCase):
             newer = "-DSAMPLE_MORE=-Wl,-platform_version,macos,14.0,14.0"
             passes, output = link_check.build(SAMPLE, folder, LIST, [newer])
             self.assertTrue(passes, output)
-            self.assertIn("minimum version 14.0", "\n".join(link_check.inspect(pathlib.Path(folder) / "Sample.app", LIST)))
+            found = "\n".join(link_check.inspect(pathlib.Path(folder) / "Sample.app", LIST))
+            self.assertIn("minimum version 14.0", found)
 
     def test_objects_that_nobody_counts_are_found(self):
         self.assertEqual(list(link_check.uncounted(self.folder)), [])

@@ -35,7 +35,7 @@ set(CMAKE_AR /usr/bin/llvm-ar-16)
 set(CMAKE_RANLIB /usr/bin/llvm-ranlib-16)
 set(CMAKE_INSTALL_NAME_TOOL /usr/bin/llvm-install-name-tool-16)
 set(CMAKE_EXE_LINKER_FLAGS_INIT
-  "-fuse-ld=/usr/bin/ld64.lld-16 -nostdlib -F${prepared}/stubs -L${prepared}/stubs -Wl,-platform_version,macos,13.0,13.0 -lSystem -lc++ -lobjc -lcompiler-rt")
+  "-fuse-ld=/usr/bin/ld64.lld-16 -nostdlib -F${prepared}/stubs -L${prepared}/stubs -Wl,-platform_version,macos,13.0,13.0 -Wl,--error-limit=0 -lSystem -lc++ -lobjc -lcompiler-rt")
 
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

@@ -1,6 +1,5 @@
 // What most sources include, compiled once for the analyser: reading headers is most of its time.
 #pragma once
-#include "io_handles.h"
 #include <algorithm>
 #include <chrono>
 #include <coroutine>
@@ -13,6 +12,8 @@
 #include <utility>
 #include <variant>
 #include <vector>
+
+#include "io_handles.h"
 #ifdef __OBJC__
 #import <AppKit/AppKit.h>
 #endif

@@ -2,8 +2,8 @@
 #include <CoreFoundation/CoreFoundation.h>
 
 void use(CFDictionaryRef dictionary) {
-    const void *keys[1];
-    const void *values[1];
+    const void* keys[1];
+    const void* values[1];
     CFDictionaryGetKeysAndValues(dictionary, keys, values);
     CFRunLoopRef loop = CFRunLoopGetMain();
     CFRunLoopWakeUp(loop);

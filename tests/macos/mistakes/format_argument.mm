@@ -1,7 +1,7 @@
 // type check: format specifies type
 #import <AppKit/AppKit.h>
 
-NSString *percent(int value) {
+NSString* percent(int value) {
 #ifdef MISTAKE
     return [NSString stringWithFormat:@"%@ %%", value];
 #else

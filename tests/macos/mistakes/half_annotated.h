@@ -3,8 +3,8 @@
 #import <AppKit/AppKit.h>
 
 #ifdef MISTAKE
-void hide(NSView *view);
+void hide(NSView* view);
 #else
-void hide(NSView *_Nonnull view);
+void hide(NSView* _Nonnull view);
 #endif
-void show(NSView *_Nullable view);
+void show(NSView* _Nullable view);

@@ -1,4 +1,4 @@
 // type check: missing a nullability type specifier
 #import "half_annotated.h"
 
-void hide(NSView *view) { view.hidden = YES; }
+void hide(NSView* view) { view.hidden = YES; }

@@ -3,7 +3,8 @@
 
 bool canBeWalked() {
     io_iterator_t iterator = IO_OBJECT_NULL;
-    if (IORegistryCreateIterator(kIOMainPortDefault, "IOService", kIORegistryIterateRecursively, &iterator) != KERN_SUCCESS) {
+    if (IORegistryCreateIterator(kIOMainPortDefault, "IOService", kIORegistryIterateRecursively, &iterator) !=
+        KERN_SUCCESS) {
         return false;
     }
 #ifdef MISTAKE

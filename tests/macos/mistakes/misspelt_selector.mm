@@ -1,7 +1,7 @@
 // type check: declares the selector 'setStringVallue:'
 #import <AppKit/AppKit.h>
 
-void show(NSTextField *label) {
+void show(NSTextField* label) {
 #ifdef MISTAKE
     [label setStringVallue:@"42"];
 #else

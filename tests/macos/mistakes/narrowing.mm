@@ -1,7 +1,7 @@
 // type check: implicit conversion loses integer precision
 #import <AppKit/AppKit.h>
 
-int count(NSArray *array) {
+int count(NSArray* array) {
 #ifdef MISTAKE
     return array.count;
 #else

@@ -1,7 +1,7 @@
 // type check: 'to_chars' is unavailable
 #include <charconv>
 
-char *written(char *first, char *last, double number) {
+char* written(char* first, char* last, double number) {
 #ifdef MISTAKE
     return std::to_chars(first, last, number).ptr;
 #else

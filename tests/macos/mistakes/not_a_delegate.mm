@@ -4,7 +4,7 @@
 @interface Owner : NSObject
 @end
 
-void connect(NSMenu *menu, Owner *owner, NSObject<NSMenuDelegate> *delegate) {
+void connect(NSMenu* menu, Owner* owner, NSObject<NSMenuDelegate>* delegate) {
     NSLog(@"%@ %@", owner, delegate);
 #ifdef MISTAKE
     [menu setDelegate:owner];

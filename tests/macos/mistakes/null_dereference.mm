@@ -2,12 +2,10 @@
 #import <AppKit/AppKit.h>
 
 #ifdef MISTAKE
-int first(const int *_Nullable numbers) {
+int first(const int* _Nullable numbers) {
     if (numbers == nullptr) return *numbers;
     return 0;
 }
 #else
-int first(const int *_Nullable numbers) {
-    return numbers == nullptr ? 0 : *numbers;
-}
+int first(const int* _Nullable numbers) { return numbers == nullptr ? 0 : *numbers; }
 #endif

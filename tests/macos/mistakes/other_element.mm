@@ -1,7 +1,7 @@
 // type check: incompatible pointer types
 #import <AppKit/AppKit.h>
 
-void arrange(NSView *view, NSArray<NSString *> *titles) {
+void arrange(NSView* view, NSArray<NSString*>* titles) {
 #ifdef MISTAKE
     view.subviews = titles;
 #else

@@ -1,7 +1,7 @@
 // type check: cannot initialize a parameter of type 'NSButtonType'
 #import <AppKit/AppKit.h>
 
-void style(NSButton *button) {
+void style(NSButton* button) {
 #ifdef MISTAKE
     [button setButtonType:NSBezelStyleRounded];
 #else

@@ -2,13 +2,13 @@
 #import <AppKit/AppKit.h>
 
 @interface Page : NSView
-- (instancetype)initWithTitle:(NSString *_Nonnull)title NS_DESIGNATED_INITIALIZER;
+- (instancetype)initWithTitle:(NSString* _Nonnull)title NS_DESIGNATED_INITIALIZER;
 - (instancetype)initWithFrame:(NSRect)frame NS_UNAVAILABLE;
-- (nullable instancetype)initWithCoder:(NSCoder *_Nonnull)coder NS_UNAVAILABLE;
+- (nullable instancetype)initWithCoder:(NSCoder* _Nonnull)coder NS_UNAVAILABLE;
 @end
 
 @implementation Page
-- (instancetype)initWithTitle:(NSString *)title {
+- (instancetype)initWithTitle:(NSString*)title {
 #ifdef MISTAKE
     self = [super init];
 #else

@@ -1,7 +1,7 @@
 // type check: assignment to readonly property
 #import <AppKit/AppKit.h>
 
-void hide(NSPopover *popover) {
+void hide(NSPopover* popover) {
 #ifdef MISTAKE
     popover.shown = NO;
 #else

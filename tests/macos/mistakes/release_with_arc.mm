@@ -1,7 +1,7 @@
 // type check: 'release' is unavailable
 #import <AppKit/AppKit.h>
 
-void close(NSWindow *window) {
+void close(NSWindow* window) {
 #ifdef MISTAKE
     [window release];
 #else

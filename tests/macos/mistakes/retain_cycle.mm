@@ -8,10 +8,14 @@
 @implementation Button
 - (void)connect {
 #ifdef MISTAKE
-    self.handler = ^{ [self performClick:nil]; };
+    self.handler = ^{
+      [self performClick:nil];
+    };
 #else
-    __weak Button *weakSelf = self;
-    self.handler = ^{ [weakSelf performClick:nil]; };
+    __weak Button* weakSelf = self;
+    self.handler = ^{
+      [weakSelf performClick:nil];
+    };
 #endif
 }
 @end

@@ -5,7 +5,7 @@
 - (void)pressed:(nullable id)sender;
 @end
 
-void connect(NSButton *button) {
+void connect(NSButton* button) {
 #ifdef MISTAKE
     button.action = @selector(presed:);
 #else

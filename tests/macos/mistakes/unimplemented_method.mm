@@ -7,7 +7,7 @@
 @implementation Target
 #ifdef MISTAKE
 #else
-- (BOOL)validateMenuItem:(NSMenuItem *)item {
+- (BOOL)validateMenuItem:(NSMenuItem*)item {
     return item.enabled;
 }
 #endif

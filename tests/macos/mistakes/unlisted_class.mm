@@ -2,7 +2,7 @@
 #import <AppKit/AppKit.h>
 
 #ifdef MISTAKE
-NSObject *_Nonnull made() { return [NSAlert new]; }
+NSObject* _Nonnull made() { return [NSAlert new]; }
 #else
-NSObject *_Nonnull made() { return [NSBox new]; }
+NSObject* _Nonnull made() { return [NSBox new]; }
 #endif

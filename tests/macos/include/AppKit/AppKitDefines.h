@@ -4,17 +4,17 @@
 
 #define APPKIT_EXTERN FOUNDATION_EXTERN
 
-@class NSApplication, NSAppearance, NSBezierPath, NSBundle, NSButton, NSCell, NSClipView, NSColor, NSColorSpace,
-    NSControl, NSCursor, NSEvent, NSFont, NSGestureRecognizer, NSGraphicsContext, NSImage, NSImageSymbolConfiguration,
-    NSLayoutConstraint, NSLayoutDimension, NSLayoutGuide, NSLayoutXAxisAnchor, NSLayoutYAxisAnchor, NSMenu, NSMenuItem,
-    NSPanel, NSPopover, NSScreen, NSScrollView, NSScroller, NSShadow, NSStatusBar, NSStatusBarButton, NSStatusItem, NSText,
-    NSTextField, NSTextView, NSTrackingArea, NSUndoManager, NSView, NSViewController, NSWindow, NSWindowController, CALayer,
-    CAMediaTimingFunction;
+@class NSApplication, NSAppearance, NSBezierPath, NSBundle, NSButton, NSCell, NSClipView, NSColor,
+    NSColorSpace, NSControl, NSCursor, NSEvent, NSFont, NSGestureRecognizer, NSGraphicsContext, NSImage,
+    NSImageSymbolConfiguration, NSLayoutConstraint, NSLayoutDimension, NSLayoutGuide, NSLayoutXAxisAnchor,
+    NSLayoutYAxisAnchor, NSMenu, NSMenuItem, NSPanel, NSPopover, NSScreen, NSScrollView, NSScroller, NSShadow,
+    NSStatusBar, NSStatusBarButton, NSStatusItem, NSText, NSTextField, NSTextView, NSTrackingArea,
+    NSUndoManager, NSView, NSViewController, NSWindow, NSWindowController, CALayer, CAMediaTimingFunction;
 
-typedef struct CGContext *CGContextRef;
-typedef struct CGColor *CGColorRef;
-typedef struct CGImage *CGImageRef;
-typedef const struct CGPath *CGPathRef;
+typedef struct CGContext* CGContextRef;
+typedef struct CGColor* CGColorRef;
+typedef struct CGImage* CGImageRef;
+typedef const struct CGPath* CGPathRef;
 
 typedef NS_ENUM(NSUInteger, NSControlSize) {
     NSControlSizeRegular = 0,
@@ -30,7 +30,7 @@ typedef NS_ENUM(NSInteger, NSUserInterfaceLayoutOrientation) {
     NSUserInterfaceLayoutOrientationHorizontal = 0,
     NSUserInterfaceLayoutOrientationVertical = 1,
 };
-typedef NSString *NSUserInterfaceItemIdentifier NS_TYPED_EXTENSIBLE_ENUM;
+typedef NSString* NSUserInterfaceItemIdentifier NS_TYPED_EXTENSIBLE_ENUM;
 
 @protocol NSUserInterfaceItemIdentification <NSObject>
 @property(nullable, copy) NSUserInterfaceItemIdentifier identifier;

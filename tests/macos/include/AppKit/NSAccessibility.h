@@ -4,11 +4,11 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-typedef NSString *NSAccessibilityRole NS_TYPED_ENUM;
-typedef NSString *NSAccessibilitySubrole NS_TYPED_ENUM;
-typedef NSString *NSAccessibilityNotificationName NS_TYPED_ENUM;
-typedef NSString *NSAccessibilityNotificationUserInfoKey NS_TYPED_ENUM;
-typedef NSString *NSAccessibilityAttributeName NS_TYPED_ENUM;
+typedef NSString* NSAccessibilityRole NS_TYPED_ENUM;
+typedef NSString* NSAccessibilitySubrole NS_TYPED_ENUM;
+typedef NSString* NSAccessibilityNotificationName NS_TYPED_ENUM;
+typedef NSString* NSAccessibilityNotificationUserInfoKey NS_TYPED_ENUM;
+typedef NSString* NSAccessibilityAttributeName NS_TYPED_ENUM;
 
 APPKIT_EXTERN NSAccessibilityRole const NSAccessibilityApplicationRole;
 APPKIT_EXTERN NSAccessibilityRole const NSAccessibilityWindowRole;
@@ -108,14 +108,14 @@ typedef NS_ENUM(NSInteger, NSAccessibilityOrientation) {
 APPKIT_EXTERN void NSAccessibilityPostNotification(id element, NSAccessibilityNotificationName notification);
 APPKIT_EXTERN void NSAccessibilityPostNotificationWithUserInfo(
     id element, NSAccessibilityNotificationName notification,
-    NSDictionary<NSAccessibilityNotificationUserInfoKey, id> *_Nullable userInfo);
-APPKIT_EXTERN NSString *_Nullable NSAccessibilityRoleDescription(NSAccessibilityRole role,
-                                                                NSAccessibilitySubrole _Nullable subrole);
+    NSDictionary<NSAccessibilityNotificationUserInfoKey, id>* _Nullable userInfo);
+APPKIT_EXTERN NSString* _Nullable NSAccessibilityRoleDescription(NSAccessibilityRole role,
+                                                                 NSAccessibilitySubrole _Nullable subrole);
 
 @interface NSAccessibilityCustomAction : NSObject
-- (instancetype)initWithName:(NSString *)name handler:(nullable BOOL (^)(void))handler;
-- (instancetype)initWithName:(NSString *)name target:(id<NSObject>)target selector:(SEL)selector;
-@property(copy) NSString *name;
+- (instancetype)initWithName:(NSString*)name handler:(nullable BOOL (^)(void))handler;
+- (instancetype)initWithName:(NSString*)name target:(id<NSObject>)target selector:(SEL)selector;
+@property(copy) NSString* name;
 @end
 
 @protocol NSAccessibilityElement <NSObject>
@@ -124,7 +124,7 @@ APPKIT_EXTERN NSString *_Nullable NSAccessibilityRoleDescription(NSAccessibility
 - (nullable id)accessibilityParent;
 @optional
 - (BOOL)isAccessibilityFocused;
-- (NSString *)accessibilityIdentifier;
+- (NSString*)accessibilityIdentifier;
 @end
 
 // The control protocols that a view adopts to say what it is.
@@ -132,12 +132,12 @@ APPKIT_EXTERN NSString *_Nullable NSAccessibilityRoleDescription(NSAccessibility
 @end
 @protocol NSAccessibilityButton <NSAccessibilityElement>
 @required
-- (nullable NSString *)accessibilityLabel;
+- (nullable NSString*)accessibilityLabel;
 - (BOOL)accessibilityPerformPress;
 @end
 @protocol NSAccessibilitySlider <NSAccessibilityElement>
 @required
-- (nullable NSString *)accessibilityLabel;
+- (nullable NSString*)accessibilityLabel;
 - (nullable id)accessibilityValue;
 - (BOOL)accessibilityPerformIncrement;
 - (BOOL)accessibilityPerformDecrement;
@@ -151,40 +151,40 @@ APPKIT_EXTERN NSString *_Nullable NSAccessibilityRoleDescription(NSAccessibility
 @property NSPoint accessibilityActivationPoint;
 @property(nullable, weak) id accessibilityTopLevelUIElement;
 @property(nullable, strong) id accessibilityValue;
-@property(nullable, copy) NSString *accessibilityValueDescription;
-@property(nullable, copy) NSArray *accessibilityVisibleChildren;
+@property(nullable, copy) NSString* accessibilityValueDescription;
+@property(nullable, copy) NSArray* accessibilityVisibleChildren;
 @property(nullable, copy) NSAccessibilitySubrole accessibilitySubrole;
-@property(nullable, copy) NSString *accessibilityTitle;
+@property(nullable, copy) NSString* accessibilityTitle;
 @property(nullable, weak) id accessibilityTitleUIElement;
 @property NSAccessibilityOrientation accessibilityOrientation;
 @property(getter=isAccessibilityProtectedContent) BOOL accessibilityProtectedContent;
 @property(getter=isAccessibilitySelected) BOOL accessibilitySelected;
-@property(nullable, copy) NSArray *accessibilitySelectedChildren;
-@property(nullable, copy) NSArray *accessibilityServesAsTitleForUIElements;
+@property(nullable, copy) NSArray* accessibilitySelectedChildren;
+@property(nullable, copy) NSArray* accessibilityServesAsTitleForUIElements;
 @property(nullable, copy) NSAccessibilityRole accessibilityRole;
-@property(nullable, copy) NSString *accessibilityRoleDescription;
+@property(nullable, copy) NSString* accessibilityRoleDescription;
 @property(nullable, weak) id accessibilityParent;
 @property(getter=isAccessibilityModal) BOOL accessibilityModal;
 @property(nullable, strong) id accessibilityMaxValue;
 @property(nullable, strong) id accessibilityMinValue;
-@property(nullable, copy) NSArray *accessibilityLinkedUIElements;
-@property(nullable, copy) NSString *accessibilityLabel;
-@property(nullable, copy) NSArray *accessibilityLabelUIElements;
-@property(nullable, copy) NSString *accessibilityIdentifier;
+@property(nullable, copy) NSArray* accessibilityLinkedUIElements;
+@property(nullable, copy) NSString* accessibilityLabel;
+@property(nullable, copy) NSArray* accessibilityLabelUIElements;
+@property(nullable, copy) NSString* accessibilityIdentifier;
 @property(getter=isAccessibilityHidden) BOOL accessibilityHidden;
-@property(nullable, copy) NSString *accessibilityHelp;
+@property(nullable, copy) NSString* accessibilityHelp;
 @property(getter=isAccessibilityExpanded) BOOL accessibilityExpanded;
 @property(getter=isAccessibilityEnabled) BOOL accessibilityEnabled;
 @property(getter=isAccessibilityDisclosed) BOOL accessibilityDisclosed;
 @property(nullable, strong) id accessibilityDisclosedByRow;
-@property(nullable, copy) NSArray *accessibilityContents;
-@property(nullable, copy) NSArray *accessibilityChildren;
-@property(nullable, copy) NSArray *accessibilityChildrenInNavigationOrder;
-@property(nullable, copy) NSString *accessibilityPlaceholderValue;
+@property(nullable, copy) NSArray* accessibilityContents;
+@property(nullable, copy) NSArray* accessibilityChildren;
+@property(nullable, copy) NSArray* accessibilityChildrenInNavigationOrder;
+@property(nullable, copy) NSString* accessibilityPlaceholderValue;
 @property(nullable, weak) id accessibilityApplicationFocusedUIElement;
 @property(nullable, strong) id accessibilityWindow;
-@property(nullable, copy) NSArray<NSAccessibilityCustomAction *> *accessibilityCustomActions;
-@property(nullable, copy) NSArray<NSString *> *accessibilityUserInputLabels;
+@property(nullable, copy) NSArray<NSAccessibilityCustomAction*>* accessibilityCustomActions;
+@property(nullable, copy) NSArray<NSString*>* accessibilityUserInputLabels;
 - (BOOL)accessibilityPerformCancel;
 - (BOOL)accessibilityPerformConfirm;
 - (BOOL)accessibilityPerformDecrement;
@@ -202,9 +202,9 @@ APPKIT_EXTERN NSString *_Nullable NSAccessibilityRoleDescription(NSAccessibility
 @interface NSAccessibilityElement : NSObject <NSAccessibility>
 + (id)accessibilityElementWithRole:(NSAccessibilityRole)role
                              frame:(NSRect)frame
-                             label:(nullable NSString *)label
+                             label:(nullable NSString*)label
                             parent:(nullable id)parent;
-- (void)accessibilityAddChildElement:(NSAccessibilityElement *)childElement;
+- (void)accessibilityAddChildElement:(NSAccessibilityElement*)childElement;
 @property NSRect accessibilityFrameInParentSpace;
 @end
 

@@ -14,19 +14,19 @@ static const NSModalResponse NSAlertFirstButtonReturn = 1000;
 static const NSModalResponse NSAlertSecondButtonReturn = 1001;
 
 @interface NSAlert : NSObject
-+ (NSAlert *)alertWithError:(NSError *)error;
-@property(copy) NSString *messageText;
-@property(copy) NSString *informativeText;
-@property(null_resettable, strong) NSImage *icon;
-- (NSButton *)addButtonWithTitle:(NSString *)title;
-@property(readonly, copy) NSArray<NSButton *> *buttons;
++ (NSAlert*)alertWithError:(NSError*)error;
+@property(copy) NSString* messageText;
+@property(copy) NSString* informativeText;
+@property(null_resettable, strong) NSImage* icon;
+- (NSButton*)addButtonWithTitle:(NSString*)title;
+@property(readonly, copy) NSArray<NSButton*>* buttons;
 @property NSAlertStyle alertStyle;
-@property(nullable, strong) NSView *accessoryView;
+@property(nullable, strong) NSView* accessoryView;
 - (void)layout;
 - (NSModalResponse)runModal;
-- (void)beginSheetModalForWindow:(NSWindow *)sheetWindow
+- (void)beginSheetModalForWindow:(NSWindow*)sheetWindow
                completionHandler:(nullable void (^)(NSModalResponse returnCode))handler;
-@property(readonly, strong) NSWindow *window;
+@property(readonly, strong) NSWindow* window;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -10,14 +10,14 @@ typedef NS_ENUM(NSUInteger, NSTitlePosition) { NSNoTitle = 0, NSAboveTop = 1, NS
 @interface NSBox : NSView
 @property NSBoxType boxType;
 @property NSTitlePosition titlePosition;
-@property(copy) NSString *title;
+@property(copy) NSString* title;
 @property NSSize contentViewMargins;
-@property(nullable, strong) __kindof NSView *contentView;
+@property(nullable, strong) __kindof NSView* contentView;
 @property(getter=isTransparent) BOOL transparent;
 @property CGFloat borderWidth;
 @property CGFloat cornerRadius;
-@property(copy) NSColor *borderColor;
-@property(copy) NSColor *fillColor;
+@property(copy) NSColor* borderColor;
+@property(copy) NSColor* fillColor;
 - (void)sizeToFit;
 @end
 

@@ -31,20 +31,24 @@ typedef NS_ENUM(NSUInteger, NSImageScaling) {
     NSImageScaleProportionallyUpOrDown,
 };
 
-@interface NSCell : NSObject <NSCopying, NSCoding, NSUserInterfaceItemIdentification, NSAccessibilityElement, NSAccessibility>
+@interface NSCell : NSObject <NSCopying,
+                              NSCoding,
+                              NSUserInterfaceItemIdentification,
+                              NSAccessibilityElement,
+                              NSAccessibility>
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
-- (instancetype)initTextCell:(NSString *)string NS_DESIGNATED_INITIALIZER;
-- (instancetype)initImageCell:(nullable NSImage *)image NS_DESIGNATED_INITIALIZER;
-- (instancetype)initWithCoder:(NSCoder *)coder NS_DESIGNATED_INITIALIZER;
+- (instancetype)initTextCell:(NSString*)string NS_DESIGNATED_INITIALIZER;
+- (instancetype)initImageCell:(nullable NSImage*)image NS_DESIGNATED_INITIALIZER;
+- (instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property(class, readonly) BOOL prefersTrackingUntilMouseUp;
-@property(nullable, weak) NSView *controlView;
+@property(nullable, weak) NSView* controlView;
 @property NSCellType type;
 @property NSControlStateValue state;
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
 @property NSInteger tag;
 // unsure: whether a cell's `title` is nullable
-@property(nullable, copy) NSString *title;
+@property(nullable, copy) NSString* title;
 @property(getter=isOpaque, readonly) BOOL opaque;
 @property(getter=isEnabled) BOOL enabled;
 - (NSInteger)sendActionOn:(NSEventMask)mask;
@@ -57,16 +61,16 @@ typedef NS_ENUM(NSUInteger, NSImageScaling) {
 @property(getter=isHighlighted) BOOL highlighted;
 @property NSTextAlignment alignment;
 @property BOOL wraps;
-@property(nullable, strong) NSFont *font;
-@property(readonly, copy) NSString *keyEquivalent;
-@property(nullable, strong) NSFormatter *formatter;
+@property(nullable, strong) NSFont* font;
+@property(readonly, copy) NSString* keyEquivalent;
+@property(nullable, strong) NSFormatter* formatter;
 @property(nullable, copy) id objectValue;
-@property(copy) NSString *stringValue;
+@property(copy) NSString* stringValue;
 @property int intValue;
 @property float floatValue;
 @property double doubleValue;
 @property NSInteger integerValue;
-@property(nullable, strong) NSImage *image;
+@property(nullable, strong) NSImage* image;
 @property NSControlSize controlSize;
 @property(nullable, strong) id representedObject;
 @property BOOL usesSingleLineMode;
@@ -77,39 +81,42 @@ typedef NS_ENUM(NSUInteger, NSImageScaling) {
 @property BOOL refusesFirstResponder;
 @property(readonly) BOOL acceptsFirstResponder;
 @property BOOL showsFirstResponder;
-@property(copy) NSAttributedString *attributedStringValue;
+@property(copy) NSAttributedString* attributedStringValue;
 @property(readonly) NSSize cellSize;
 - (NSSize)cellSizeForBounds:(NSRect)rect;
 - (NSRect)imageRectForBounds:(NSRect)rect;
 - (NSRect)titleRectForBounds:(NSRect)rect;
 - (NSRect)drawingRectForBounds:(NSRect)rect;
 - (void)calcDrawInfo:(NSRect)rect;
-- (NSText *)setUpFieldEditorAttributes:(NSText *)textObject;
-- (void)drawInteriorWithFrame:(NSRect)cellFrame inView:(NSView *)controlView;
-- (void)drawWithFrame:(NSRect)cellFrame inView:(NSView *)controlView;
-- (void)highlight:(BOOL)flag withFrame:(NSRect)cellFrame inView:(NSView *)controlView;
+- (NSText*)setUpFieldEditorAttributes:(NSText*)textObject;
+- (void)drawInteriorWithFrame:(NSRect)cellFrame inView:(NSView*)controlView;
+- (void)drawWithFrame:(NSRect)cellFrame inView:(NSView*)controlView;
+- (void)highlight:(BOOL)flag withFrame:(NSRect)cellFrame inView:(NSView*)controlView;
 - (void)editWithFrame:(NSRect)rect
-               inView:(NSView *)controlView
-               editor:(NSText *)textObject
+               inView:(NSView*)controlView
+               editor:(NSText*)textObject
              delegate:(nullable id)delegate
-                event:(nullable NSEvent *)event;
+                event:(nullable NSEvent*)event;
 - (void)selectWithFrame:(NSRect)rect
-                 inView:(NSView *)controlView
-                 editor:(NSText *)textObject
+                 inView:(NSView*)controlView
+                 editor:(NSText*)textObject
                delegate:(nullable id)delegate
                   start:(NSInteger)selStart
                  length:(NSInteger)selLength;
-- (void)endEditing:(NSText *)textObject;
-- (BOOL)startTrackingAt:(NSPoint)startPoint inView:(NSView *)controlView;
-- (BOOL)continueTracking:(NSPoint)lastPoint at:(NSPoint)currentPoint inView:(NSView *)controlView;
-- (void)stopTracking:(NSPoint)lastPoint at:(NSPoint)stopPoint inView:(NSView *)controlView mouseIsUp:(BOOL)flag;
-- (BOOL)trackMouse:(NSEvent *)event
+- (void)endEditing:(NSText*)textObject;
+- (BOOL)startTrackingAt:(NSPoint)startPoint inView:(NSView*)controlView;
+- (BOOL)continueTracking:(NSPoint)lastPoint at:(NSPoint)currentPoint inView:(NSView*)controlView;
+- (void)stopTracking:(NSPoint)lastPoint
+                  at:(NSPoint)stopPoint
+              inView:(NSView*)controlView
+           mouseIsUp:(BOOL)flag;
+- (BOOL)trackMouse:(NSEvent*)event
             inRect:(NSRect)cellFrame
-            ofView:(NSView *)controlView
+            ofView:(NSView*)controlView
       untilMouseUp:(BOOL)flag;
 - (void)performClick:(nullable id)sender;
-- (void)drawFocusRingMaskWithFrame:(NSRect)cellFrame inView:(NSView *)controlView;
-- (NSRect)focusRingMaskBoundsForFrame:(NSRect)cellFrame inView:(NSView *)controlView;
+- (void)drawFocusRingMaskWithFrame:(NSRect)cellFrame inView:(NSView*)controlView;
+- (NSRect)focusRingMaskBoundsForFrame:(NSRect)cellFrame inView:(NSView*)controlView;
 @end
 
 @interface NSActionCell : NSCell

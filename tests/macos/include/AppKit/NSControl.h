@@ -9,7 +9,7 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSControl : NSView
 - (instancetype)initWithFrame:(NSRect)frameRect NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder *)coder NS_DESIGNATED_INITIALIZER;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
 @property NSInteger tag;
@@ -19,10 +19,10 @@ NS_ASSUME_NONNULL_BEGIN
 @property BOOL refusesFirstResponder;
 @property(getter=isHighlighted) BOOL highlighted;
 @property NSControlSize controlSize;
-@property(nullable, strong) NSFormatter *formatter;
+@property(nullable, strong) NSFormatter* formatter;
 @property(nullable, copy) id objectValue;
-@property(copy) NSString *stringValue;
-@property(copy) NSAttributedString *attributedStringValue;
+@property(copy) NSString* stringValue;
+@property(copy) NSAttributedString* attributedStringValue;
 @property int intValue;
 @property NSInteger integerValue;
 @property float floatValue;
@@ -35,31 +35,31 @@ NS_ASSUME_NONNULL_BEGIN
 - (void)takeDoubleValueFrom:(nullable id)sender;
 - (void)takeStringValueFrom:(nullable id)sender;
 - (void)performClick:(nullable id)sender;
-@property(nullable, strong) NSFont *font;
+@property(nullable, strong) NSFont* font;
 @property BOOL usesSingleLineMode;
 @property NSLineBreakMode lineBreakMode;
 @property NSTextAlignment alignment;
 @property NSWritingDirection baseWritingDirection;
 @property BOOL allowsExpansionToolTips;
-- (nullable NSText *)currentEditor;
+- (nullable NSText*)currentEditor;
 - (BOOL)abortEditing;
 - (void)validateEditing;
 @property(class, nullable) Class cellClass;
-@property(nullable, strong) __kindof NSCell *cell;
+@property(nullable, strong) __kindof NSCell* cell;
 @end
 
 @protocol NSControlTextEditingDelegate <NSObject>
 @optional
-- (BOOL)control:(NSControl *)control textShouldBeginEditing:(NSText *)fieldEditor;
-- (BOOL)control:(NSControl *)control textShouldEndEditing:(NSText *)fieldEditor;
-- (BOOL)control:(NSControl *)control
-    didFailToFormatString:(NSString *)string
-         errorDescription:(nullable NSString *)error;
-- (BOOL)control:(NSControl *)control isValidObject:(nullable id)object;
-- (BOOL)control:(NSControl *)control textView:(NSTextView *)textView doCommandBySelector:(SEL)commandSelector;
-- (void)controlTextDidBeginEditing:(NSNotification *)notification;
-- (void)controlTextDidEndEditing:(NSNotification *)notification;
-- (void)controlTextDidChange:(NSNotification *)notification;
+- (BOOL)control:(NSControl*)control textShouldBeginEditing:(NSText*)fieldEditor;
+- (BOOL)control:(NSControl*)control textShouldEndEditing:(NSText*)fieldEditor;
+- (BOOL)control:(NSControl*)control
+    didFailToFormatString:(NSString*)string
+         errorDescription:(nullable NSString*)error;
+- (BOOL)control:(NSControl*)control isValidObject:(nullable id)object;
+- (BOOL)control:(NSControl*)control textView:(NSTextView*)textView doCommandBySelector:(SEL)commandSelector;
+- (void)controlTextDidBeginEditing:(NSNotification*)notification;
+- (void)controlTextDidEndEditing:(NSNotification*)notification;
+- (void)controlTextDidChange:(NSNotification*)notification;
 @end
 
 APPKIT_EXTERN NSNotificationName const NSControlTextDidBeginEditingNotification;

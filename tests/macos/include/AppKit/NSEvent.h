@@ -84,7 +84,7 @@ typedef NS_ENUM(short, NSEventSubtype) {
 @property(readonly) NSEventType type;
 @property(readonly) NSEventModifierFlags modifierFlags;
 @property(readonly) NSTimeInterval timestamp;
-@property(nullable, readonly, weak) NSWindow *window;
+@property(nullable, readonly, weak) NSWindow* window;
 @property(readonly) NSInteger windowNumber;
 @property(readonly) NSInteger clickCount;
 @property(readonly) NSInteger buttonNumber;
@@ -98,12 +98,12 @@ typedef NS_ENUM(short, NSEventSubtype) {
 @property(readonly) NSEventPhase momentumPhase;
 @property(readonly) NSEventPhase phase;
 @property(readonly, getter=isDirectionInvertedFromDevice) BOOL directionInvertedFromDevice;
-@property(nullable, readonly, copy) NSString *characters;
-@property(nullable, readonly, copy) NSString *charactersIgnoringModifiers;
+@property(nullable, readonly, copy) NSString* characters;
+@property(nullable, readonly, copy) NSString* charactersIgnoringModifiers;
 @property(getter=isARepeat, readonly) BOOL ARepeat;
 @property(readonly) unsigned short keyCode;
 @property(readonly) NSInteger trackingNumber;
-@property(nullable, readonly, strong) NSTrackingArea *trackingArea;
+@property(nullable, readonly, strong) NSTrackingArea* trackingArea;
 @property(readonly) NSEventSubtype subtype;
 @property(readonly) NSInteger data1;
 @property(readonly) NSInteger data2;
@@ -111,37 +111,38 @@ typedef NS_ENUM(short, NSEventSubtype) {
 @property(class, readonly) NSUInteger pressedMouseButtons;
 @property(class, readonly) NSPoint mouseLocation;
 @property(class, readonly) NSTimeInterval doubleClickInterval;
-+ (nullable NSEvent *)mouseEventWithType:(NSEventType)type
-                                location:(NSPoint)location
-                           modifierFlags:(NSEventModifierFlags)flags
-                               timestamp:(NSTimeInterval)time
-                            windowNumber:(NSInteger)windowNumber
-                                 context:(nullable NSGraphicsContext *)unused
-                             eventNumber:(NSInteger)eventNumber
-                              clickCount:(NSInteger)clickCount
-                                pressure:(float)pressure;
-+ (nullable NSEvent *)keyEventWithType:(NSEventType)type
-                              location:(NSPoint)location
-                         modifierFlags:(NSEventModifierFlags)flags
-                             timestamp:(NSTimeInterval)time
-                          windowNumber:(NSInteger)windowNumber
-                               context:(nullable NSGraphicsContext *)unused
-                            characters:(NSString *)characters
-           charactersIgnoringModifiers:(NSString *)charactersIgnoringModifiers
-                             isARepeat:(BOOL)isARepeat
-                               keyCode:(unsigned short)keyCode;
-+ (nullable NSEvent *)otherEventWithType:(NSEventType)type
-                                location:(NSPoint)location
-                           modifierFlags:(NSEventModifierFlags)flags
-                               timestamp:(NSTimeInterval)time
-                            windowNumber:(NSInteger)windowNumber
-                                 context:(nullable NSGraphicsContext *)unused
-                                 subtype:(short)subtype
-                                   data1:(NSInteger)data1
-                                   data2:(NSInteger)data2;
-+ (nullable id)addGlobalMonitorForEventsMatchingMask:(NSEventMask)mask handler:(void (^)(NSEvent *event))block;
++ (nullable NSEvent*)mouseEventWithType:(NSEventType)type
+                               location:(NSPoint)location
+                          modifierFlags:(NSEventModifierFlags)flags
+                              timestamp:(NSTimeInterval)time
+                           windowNumber:(NSInteger)windowNumber
+                                context:(nullable NSGraphicsContext*)unused
+                            eventNumber:(NSInteger)eventNumber
+                             clickCount:(NSInteger)clickCount
+                               pressure:(float)pressure;
++ (nullable NSEvent*)keyEventWithType:(NSEventType)type
+                             location:(NSPoint)location
+                        modifierFlags:(NSEventModifierFlags)flags
+                            timestamp:(NSTimeInterval)time
+                         windowNumber:(NSInteger)windowNumber
+                              context:(nullable NSGraphicsContext*)unused
+                           characters:(NSString*)characters
+          charactersIgnoringModifiers:(NSString*)charactersIgnoringModifiers
+                            isARepeat:(BOOL)isARepeat
+                              keyCode:(unsigned short)keyCode;
++ (nullable NSEvent*)otherEventWithType:(NSEventType)type
+                               location:(NSPoint)location
+                          modifierFlags:(NSEventModifierFlags)flags
+                              timestamp:(NSTimeInterval)time
+                           windowNumber:(NSInteger)windowNumber
+                                context:(nullable NSGraphicsContext*)unused
+                                subtype:(short)subtype
+                                  data1:(NSInteger)data1
+                                  data2:(NSInteger)data2;
++ (nullable id)addGlobalMonitorForEventsMatchingMask:(NSEventMask)mask
+                                             handler:(void (^)(NSEvent* event))block;
 + (nullable id)addLocalMonitorForEventsMatchingMask:(NSEventMask)mask
-                                            handler:(NSEvent *_Nullable (^)(NSEvent *event))block;
+                                            handler:(NSEvent* _Nullable (^)(NSEvent* event))block;
 + (void)removeMonitor:(id)eventMonitor;
 @end
 
@@ -176,11 +177,11 @@ typedef NS_OPTIONS(NSUInteger, NSTrackingAreaOptions) {
 - (instancetype)initWithRect:(NSRect)rect
                      options:(NSTrackingAreaOptions)options
                        owner:(nullable id)owner
-                    userInfo:(nullable NSDictionary<id, id> *)userInfo;
+                    userInfo:(nullable NSDictionary<id, id>*)userInfo;
 @property(readonly) NSRect rect;
 @property(readonly) NSTrackingAreaOptions options;
 @property(readonly, nullable, weak) id owner;
-@property(readonly, copy, nullable) NSDictionary<id, id> *userInfo;
+@property(readonly, copy, nullable) NSDictionary<id, id>* userInfo;
 @end
 
 NS_ASSUME_NONNULL_END

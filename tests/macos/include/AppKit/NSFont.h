@@ -15,8 +15,8 @@ APPKIT_EXTERN const NSFontWeight NSFontWeightBold;
 APPKIT_EXTERN const NSFontWeight NSFontWeightHeavy;
 APPKIT_EXTERN const NSFontWeight NSFontWeightBlack;
 
-typedef NSString *NSFontTextStyle NS_TYPED_ENUM;
-typedef NSString *NSFontTextStyleOptionKey NS_TYPED_ENUM;
+typedef NSString* NSFontTextStyle NS_TYPED_ENUM;
+typedef NSString* NSFontTextStyleOptionKey NS_TYPED_ENUM;
 APPKIT_EXTERN NSFontTextStyle const NSFontTextStyleLargeTitle;
 APPKIT_EXTERN NSFontTextStyle const NSFontTextStyleTitle1;
 APPKIT_EXTERN NSFontTextStyle const NSFontTextStyleTitle2;
@@ -37,34 +37,35 @@ typedef NS_OPTIONS(uint32_t, NSFontDescriptorSymbolicTraits) {
 };
 
 @interface NSFontDescriptor : NSObject <NSCopying, NSSecureCoding>
-- (NSFontDescriptor *)fontDescriptorWithSymbolicTraits:(NSFontDescriptorSymbolicTraits)traits;
-- (NSFontDescriptor *)fontDescriptorWithSize:(CGFloat)size;
+- (NSFontDescriptor*)fontDescriptorWithSymbolicTraits:(NSFontDescriptorSymbolicTraits)traits;
+- (NSFontDescriptor*)fontDescriptorWithSize:(CGFloat)size;
 @end
 
 @interface NSFont : NSObject <NSCopying, NSSecureCoding>
-+ (nullable NSFont *)fontWithName:(NSString *)name size:(CGFloat)size;
-+ (nullable NSFont *)fontWithDescriptor:(NSFontDescriptor *)descriptor size:(CGFloat)size;
-+ (NSFont *)systemFontOfSize:(CGFloat)size;
-+ (NSFont *)boldSystemFontOfSize:(CGFloat)size;
-+ (NSFont *)systemFontOfSize:(CGFloat)size weight:(NSFontWeight)weight;
-+ (NSFont *)monospacedDigitSystemFontOfSize:(CGFloat)size weight:(NSFontWeight)weight;
-+ (NSFont *)monospacedSystemFontOfSize:(CGFloat)size weight:(NSFontWeight)weight;
-+ (NSFont *)labelFontOfSize:(CGFloat)size;
-+ (NSFont *)menuFontOfSize:(CGFloat)size;
-+ (NSFont *)menuBarFontOfSize:(CGFloat)size;
-+ (NSFont *)messageFontOfSize:(CGFloat)size;
-+ (NSFont *)controlContentFontOfSize:(CGFloat)size;
-+ (NSFont *)preferredFontForTextStyle:(NSFontTextStyle)style
-                              options:(NSDictionary<NSFontTextStyleOptionKey, id> *)options API_AVAILABLE(macos(11.0));
++ (nullable NSFont*)fontWithName:(NSString*)name size:(CGFloat)size;
++ (nullable NSFont*)fontWithDescriptor:(NSFontDescriptor*)descriptor size:(CGFloat)size;
++ (NSFont*)systemFontOfSize:(CGFloat)size;
++ (NSFont*)boldSystemFontOfSize:(CGFloat)size;
++ (NSFont*)systemFontOfSize:(CGFloat)size weight:(NSFontWeight)weight;
++ (NSFont*)monospacedDigitSystemFontOfSize:(CGFloat)size weight:(NSFontWeight)weight;
++ (NSFont*)monospacedSystemFontOfSize:(CGFloat)size weight:(NSFontWeight)weight;
++ (NSFont*)labelFontOfSize:(CGFloat)size;
++ (NSFont*)menuFontOfSize:(CGFloat)size;
++ (NSFont*)menuBarFontOfSize:(CGFloat)size;
++ (NSFont*)messageFontOfSize:(CGFloat)size;
++ (NSFont*)controlContentFontOfSize:(CGFloat)size;
++ (NSFont*)preferredFontForTextStyle:(NSFontTextStyle)style
+                             options:(NSDictionary<NSFontTextStyleOptionKey, id>*)options
+    API_AVAILABLE(macos(11.0));
 @property(class, readonly) CGFloat systemFontSize;
 @property(class, readonly) CGFloat smallSystemFontSize;
 @property(class, readonly) CGFloat labelFontSize;
 + (CGFloat)systemFontSizeForControlSize:(NSControlSize)size;
-- (NSFont *)fontWithSize:(CGFloat)size;
-@property(readonly, copy) NSString *fontName;
-@property(nullable, readonly, copy) NSString *displayName;
+- (NSFont*)fontWithSize:(CGFloat)size;
+@property(readonly, copy) NSString* fontName;
+@property(nullable, readonly, copy) NSString* displayName;
 @property(readonly) CGFloat pointSize;
-@property(readonly, copy) NSFontDescriptor *fontDescriptor;
+@property(readonly, copy) NSFontDescriptor* fontDescriptor;
 @property(readonly) CGFloat ascender;
 @property(readonly) CGFloat descender;
 @property(readonly) CGFloat leading;
@@ -102,7 +103,7 @@ typedef NS_OPTIONS(NSInteger, NSUnderlineStyle) {
 };
 
 @interface NSParagraphStyle : NSObject <NSCopying, NSMutableCopying, NSSecureCoding>
-@property(class, readonly, copy) NSParagraphStyle *defaultParagraphStyle;
+@property(class, readonly, copy) NSParagraphStyle* defaultParagraphStyle;
 @property(readonly) CGFloat lineSpacing;
 @property(readonly) NSTextAlignment alignment;
 @property(readonly) NSLineBreakMode lineBreakMode;
@@ -141,13 +142,14 @@ typedef NS_OPTIONS(NSInteger, NSStringDrawingOptions) {
 @end
 
 @interface NSString (NSStringDrawing)
-- (NSSize)sizeWithAttributes:(nullable NSDictionary<NSAttributedStringKey, id> *)attributes;
-- (void)drawAtPoint:(NSPoint)point withAttributes:(nullable NSDictionary<NSAttributedStringKey, id> *)attributes;
-- (void)drawInRect:(NSRect)rect withAttributes:(nullable NSDictionary<NSAttributedStringKey, id> *)attributes;
+- (NSSize)sizeWithAttributes:(nullable NSDictionary<NSAttributedStringKey, id>*)attributes;
+- (void)drawAtPoint:(NSPoint)point
+     withAttributes:(nullable NSDictionary<NSAttributedStringKey, id>*)attributes;
+- (void)drawInRect:(NSRect)rect withAttributes:(nullable NSDictionary<NSAttributedStringKey, id>*)attributes;
 - (NSRect)boundingRectWithSize:(NSSize)size
                        options:(NSStringDrawingOptions)options
-                    attributes:(nullable NSDictionary<NSAttributedStringKey, id> *)attributes
-                       context:(nullable NSStringDrawingContext *)context;
+                    attributes:(nullable NSDictionary<NSAttributedStringKey, id>*)attributes
+                       context:(nullable NSStringDrawingContext*)context;
 @end
 
 @interface NSAttributedString (NSStringDrawing)
@@ -156,7 +158,7 @@ typedef NS_OPTIONS(NSInteger, NSStringDrawingOptions) {
 - (void)drawInRect:(NSRect)rect;
 - (NSRect)boundingRectWithSize:(NSSize)size
                        options:(NSStringDrawingOptions)options
-                       context:(nullable NSStringDrawingContext *)context;
+                       context:(nullable NSStringDrawingContext*)context;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -48,7 +48,7 @@ APPKIT_EXTERN void NSRectClip(NSRect rect);
 APPKIT_EXTERN void NSBeep(void);
 
 @interface NSAffineTransform : NSObject <NSCopying, NSSecureCoding>
-+ (NSAffineTransform *)transform;
++ (NSAffineTransform*)transform;
 - (void)translateXBy:(CGFloat)deltaX yBy:(CGFloat)deltaY;
 - (void)scaleBy:(CGFloat)scale;
 - (void)scaleXBy:(CGFloat)scaleX yBy:(CGFloat)scaleY;
@@ -57,7 +57,7 @@ APPKIT_EXTERN void NSBeep(void);
 @end
 
 @interface NSGraphicsContext : NSObject
-@property(class, nullable, strong) NSGraphicsContext *currentContext;
+@property(class, nullable, strong) NSGraphicsContext* currentContext;
 + (void)saveGraphicsState;
 + (void)restoreGraphicsState;
 - (void)saveGraphicsState;
@@ -70,10 +70,10 @@ APPKIT_EXTERN void NSBeep(void);
 @end
 
 @interface NSBezierPath : NSObject <NSCopying, NSSecureCoding>
-+ (NSBezierPath *)bezierPath;
-+ (NSBezierPath *)bezierPathWithRect:(NSRect)rect;
-+ (NSBezierPath *)bezierPathWithOvalInRect:(NSRect)rect;
-+ (NSBezierPath *)bezierPathWithRoundedRect:(NSRect)rect xRadius:(CGFloat)xRadius yRadius:(CGFloat)yRadius;
++ (NSBezierPath*)bezierPath;
++ (NSBezierPath*)bezierPathWithRect:(NSRect)rect;
++ (NSBezierPath*)bezierPathWithOvalInRect:(NSRect)rect;
++ (NSBezierPath*)bezierPathWithRoundedRect:(NSRect)rect xRadius:(CGFloat)xRadius yRadius:(CGFloat)yRadius;
 + (void)fillRect:(NSRect)rect;
 + (void)strokeRect:(NSRect)rect;
 + (void)clipRect:(NSRect)rect;
@@ -92,17 +92,17 @@ APPKIT_EXTERN void NSBeep(void);
 @property NSWindingRule windingRule;
 @property CGFloat miterLimit;
 @property CGFloat flatness;
-- (void)setLineDash:(nullable const CGFloat *)pattern count:(NSInteger)count phase:(CGFloat)phase;
+- (void)setLineDash:(nullable const CGFloat*)pattern count:(NSInteger)count phase:(CGFloat)phase;
 - (void)stroke;
 - (void)fill;
 - (void)addClip;
 - (void)setClip;
-- (void)transformUsingAffineTransform:(NSAffineTransform *)transform;
+- (void)transformUsingAffineTransform:(NSAffineTransform*)transform;
 @property(getter=isEmpty, readonly) BOOL empty;
 @property(readonly) NSPoint currentPoint;
 @property(readonly) NSRect bounds;
 @property(readonly) NSRect controlPointBounds;
-- (void)appendBezierPath:(NSBezierPath *)path;
+- (void)appendBezierPath:(NSBezierPath*)path;
 - (void)appendBezierPathWithRect:(NSRect)rect;
 - (void)appendBezierPathWithOvalInRect:(NSRect)rect;
 - (void)appendBezierPathWithArcWithCenter:(NSPoint)center
@@ -122,14 +122,14 @@ APPKIT_EXTERN void NSBeep(void);
 @interface NSShadow : NSObject <NSCopying, NSSecureCoding>
 @property NSSize shadowOffset;
 @property CGFloat shadowBlurRadius;
-@property(nullable, copy) NSColor *shadowColor;
+@property(nullable, copy) NSColor* shadowColor;
 - (void)set;
 @end
 
 @interface NSCursor : NSObject <NSSecureCoding>
-@property(class, readonly, strong) NSCursor *arrowCursor;
-@property(class, readonly, strong) NSCursor *pointingHandCursor;
-@property(class, readonly, strong) NSCursor *IBeamCursor;
+@property(class, readonly, strong) NSCursor* arrowCursor;
+@property(class, readonly, strong) NSCursor* pointingHandCursor;
+@property(class, readonly, strong) NSCursor* IBeamCursor;
 - (void)set;
 - (void)push;
 - (void)pop;

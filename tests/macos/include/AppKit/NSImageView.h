@@ -19,14 +19,14 @@ typedef NS_ENUM(NSUInteger, NSImageAlignment) {
 typedef NS_ENUM(NSUInteger, NSImageFrameStyle) { NSImageFrameNone = 0 };
 
 @interface NSImageView : NSControl
-+ (instancetype)imageViewWithImage:(NSImage *)image;
-@property(nullable, strong) NSImage *image;
++ (instancetype)imageViewWithImage:(NSImage*)image;
+@property(nullable, strong) NSImage* image;
 @property(getter=isEditable) BOOL editable;
 @property NSImageAlignment imageAlignment;
 @property NSImageScaling imageScaling;
 @property NSImageFrameStyle imageFrameStyle;
-@property(nullable, copy) NSImageSymbolConfiguration *symbolConfiguration API_AVAILABLE(macos(11.0));
-@property(nullable, copy) NSColor *contentTintColor;
+@property(nullable, copy) NSImageSymbolConfiguration* symbolConfiguration API_AVAILABLE(macos(11.0));
+@property(nullable, copy) NSColor* contentTintColor;
 @property BOOL animates;
 @end
 

@@ -37,32 +37,37 @@ typedef NS_ENUM(NSInteger, NSLayoutAttribute) {
 @property NSLayoutPriority priority;
 @property CGFloat constant;
 @property(getter=isActive) BOOL active;
-+ (void)activateConstraints:(NSArray<NSLayoutConstraint *> *)constraints;
-+ (void)deactivateConstraints:(NSArray<NSLayoutConstraint *> *)constraints;
++ (void)activateConstraints:(NSArray<NSLayoutConstraint*>*)constraints;
++ (void)deactivateConstraints:(NSArray<NSLayoutConstraint*>*)constraints;
 @end
 
 @interface NSLayoutAnchor<AnchorType> : NSObject <NSCopying, NSCoding>
-- (NSLayoutConstraint *)constraintEqualToAnchor:(NSLayoutAnchor<AnchorType> *)anchor __attribute__((warn_unused_result));
-- (NSLayoutConstraint *)constraintGreaterThanOrEqualToAnchor:(NSLayoutAnchor<AnchorType> *)anchor
+- (NSLayoutConstraint*)constraintEqualToAnchor:(NSLayoutAnchor<AnchorType>*)anchor
     __attribute__((warn_unused_result));
-- (NSLayoutConstraint *)constraintLessThanOrEqualToAnchor:(NSLayoutAnchor<AnchorType> *)anchor
+- (NSLayoutConstraint*)constraintGreaterThanOrEqualToAnchor:(NSLayoutAnchor<AnchorType>*)anchor
     __attribute__((warn_unused_result));
-- (NSLayoutConstraint *)constraintEqualToAnchor:(NSLayoutAnchor<AnchorType> *)anchor
-                                       constant:(CGFloat)constant __attribute__((warn_unused_result));
-- (NSLayoutConstraint *)constraintGreaterThanOrEqualToAnchor:(NSLayoutAnchor<AnchorType> *)anchor
-                                                    constant:(CGFloat)constant __attribute__((warn_unused_result));
-- (NSLayoutConstraint *)constraintLessThanOrEqualToAnchor:(NSLayoutAnchor<AnchorType> *)anchor
-                                                 constant:(CGFloat)constant __attribute__((warn_unused_result));
+- (NSLayoutConstraint*)constraintLessThanOrEqualToAnchor:(NSLayoutAnchor<AnchorType>*)anchor
+    __attribute__((warn_unused_result));
+- (NSLayoutConstraint*)constraintEqualToAnchor:(NSLayoutAnchor<AnchorType>*)anchor
+                                      constant:(CGFloat)constant __attribute__((warn_unused_result));
+- (NSLayoutConstraint*)constraintGreaterThanOrEqualToAnchor:(NSLayoutAnchor<AnchorType>*)anchor
+                                                   constant:(CGFloat)constant
+    __attribute__((warn_unused_result));
+- (NSLayoutConstraint*)constraintLessThanOrEqualToAnchor:(NSLayoutAnchor<AnchorType>*)anchor
+                                                constant:(CGFloat)constant
+    __attribute__((warn_unused_result));
 @end
 
-@interface NSLayoutXAxisAnchor : NSLayoutAnchor <NSLayoutXAxisAnchor *>
+@interface NSLayoutXAxisAnchor : NSLayoutAnchor <NSLayoutXAxisAnchor*>
 @end
-@interface NSLayoutYAxisAnchor : NSLayoutAnchor <NSLayoutYAxisAnchor *>
+@interface NSLayoutYAxisAnchor : NSLayoutAnchor <NSLayoutYAxisAnchor*>
 @end
-@interface NSLayoutDimension : NSLayoutAnchor <NSLayoutDimension *>
-- (NSLayoutConstraint *)constraintEqualToConstant:(CGFloat)constant __attribute__((warn_unused_result));
-- (NSLayoutConstraint *)constraintGreaterThanOrEqualToConstant:(CGFloat)constant __attribute__((warn_unused_result));
-- (NSLayoutConstraint *)constraintLessThanOrEqualToConstant:(CGFloat)constant __attribute__((warn_unused_result));
+@interface NSLayoutDimension : NSLayoutAnchor <NSLayoutDimension*>
+- (NSLayoutConstraint*)constraintEqualToConstant:(CGFloat)constant __attribute__((warn_unused_result));
+- (NSLayoutConstraint*)constraintGreaterThanOrEqualToConstant:(CGFloat)constant
+    __attribute__((warn_unused_result));
+- (NSLayoutConstraint*)constraintLessThanOrEqualToConstant:(CGFloat)constant
+    __attribute__((warn_unused_result));
 @end
 
 NS_ASSUME_NONNULL_END

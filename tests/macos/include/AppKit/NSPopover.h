@@ -12,27 +12,27 @@ typedef NS_ENUM(NSInteger, NSPopoverBehavior) {
     NSPopoverBehaviorTransient = 1,
     NSPopoverBehaviorSemitransient = 2,
 };
-typedef NSString *NSPopoverCloseReasonValue NS_TYPED_ENUM;
-APPKIT_EXTERN NSString *const NSPopoverCloseReasonKey;
+typedef NSString* NSPopoverCloseReasonValue NS_TYPED_ENUM;
+APPKIT_EXTERN NSString* const NSPopoverCloseReasonKey;
 APPKIT_EXTERN NSPopoverCloseReasonValue const NSPopoverCloseReasonStandard;
 APPKIT_EXTERN NSPopoverCloseReasonValue const NSPopoverCloseReasonDetachToWindow;
 
 @interface NSPopover : NSResponder <NSAppearanceCustomization, NSAccessibilityElement, NSAccessibility>
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder *)coder NS_DESIGNATED_INITIALIZER;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property(nullable, weak) id<NSPopoverDelegate> delegate;
-@property(nullable, strong) NSAppearance *appearance;
-@property(readonly, strong) NSAppearance *effectiveAppearance;
+@property(nullable, strong) NSAppearance* appearance;
+@property(readonly, strong) NSAppearance* effectiveAppearance;
 @property NSPopoverBehavior behavior;
 @property BOOL animates;
-@property(nullable, strong) NSViewController *contentViewController;
+@property(nullable, strong) NSViewController* contentViewController;
 @property NSSize contentSize;
 @property(readonly, getter=isShown) BOOL shown;
 @property(readonly, getter=isDetached) BOOL detached;
 @property NSRect positioningRect;
 @property BOOL hasFullSizeContent API_AVAILABLE(macos(14.0));
 - (void)showRelativeToRect:(NSRect)positioningRect
-                    ofView:(NSView *)positioningView
+                    ofView:(NSView*)positioningView
              preferredEdge:(NSRectEdge)preferredEdge;
 - (void)performClose:(nullable id)sender;
 - (void)close;
@@ -45,14 +45,14 @@ APPKIT_EXTERN NSNotificationName const NSPopoverDidCloseNotification;
 
 @protocol NSPopoverDelegate <NSObject>
 @optional
-- (BOOL)popoverShouldClose:(NSPopover *)popover;
-- (BOOL)popoverShouldDetach:(NSPopover *)popover;
-- (void)popoverDidDetach:(NSPopover *)popover;
-- (nullable NSWindow *)detachableWindowForPopover:(NSPopover *)popover;
-- (void)popoverWillShow:(NSNotification *)notification;
-- (void)popoverDidShow:(NSNotification *)notification;
-- (void)popoverWillClose:(NSNotification *)notification;
-- (void)popoverDidClose:(NSNotification *)notification;
+- (BOOL)popoverShouldClose:(NSPopover*)popover;
+- (BOOL)popoverShouldDetach:(NSPopover*)popover;
+- (void)popoverDidDetach:(NSPopover*)popover;
+- (nullable NSWindow*)detachableWindowForPopover:(NSPopover*)popover;
+- (void)popoverWillShow:(NSNotification*)notification;
+- (void)popoverDidShow:(NSNotification*)notification;
+- (void)popoverWillClose:(NSNotification*)notification;
+- (void)popoverDidClose:(NSNotification*)notification;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -7,36 +7,36 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface NSResponder : NSObject <NSCoding>
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder *)coder NS_DESIGNATED_INITIALIZER;
-@property(nullable, assign) NSResponder *nextResponder;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
+@property(nullable, assign) NSResponder* nextResponder;
 - (BOOL)tryToPerform:(SEL)action with:(nullable id)object;
-- (BOOL)performKeyEquivalent:(NSEvent *)event;
-- (void)mouseDown:(NSEvent *)event;
-- (void)rightMouseDown:(NSEvent *)event;
-- (void)otherMouseDown:(NSEvent *)event;
-- (void)mouseUp:(NSEvent *)event;
-- (void)rightMouseUp:(NSEvent *)event;
-- (void)otherMouseUp:(NSEvent *)event;
-- (void)mouseMoved:(NSEvent *)event;
-- (void)mouseDragged:(NSEvent *)event;
-- (void)scrollWheel:(NSEvent *)event;
-- (void)rightMouseDragged:(NSEvent *)event;
-- (void)mouseEntered:(NSEvent *)event;
-- (void)mouseExited:(NSEvent *)event;
-- (void)keyDown:(NSEvent *)event;
-- (void)keyUp:(NSEvent *)event;
-- (void)flagsChanged:(NSEvent *)event;
-- (void)cursorUpdate:(NSEvent *)event;
+- (BOOL)performKeyEquivalent:(NSEvent*)event;
+- (void)mouseDown:(NSEvent*)event;
+- (void)rightMouseDown:(NSEvent*)event;
+- (void)otherMouseDown:(NSEvent*)event;
+- (void)mouseUp:(NSEvent*)event;
+- (void)rightMouseUp:(NSEvent*)event;
+- (void)otherMouseUp:(NSEvent*)event;
+- (void)mouseMoved:(NSEvent*)event;
+- (void)mouseDragged:(NSEvent*)event;
+- (void)scrollWheel:(NSEvent*)event;
+- (void)rightMouseDragged:(NSEvent*)event;
+- (void)mouseEntered:(NSEvent*)event;
+- (void)mouseExited:(NSEvent*)event;
+- (void)keyDown:(NSEvent*)event;
+- (void)keyUp:(NSEvent*)event;
+- (void)flagsChanged:(NSEvent*)event;
+- (void)cursorUpdate:(NSEvent*)event;
 - (void)noResponderFor:(SEL)eventSelector;
 @property(readonly) BOOL acceptsFirstResponder;
 - (BOOL)becomeFirstResponder;
 - (BOOL)resignFirstResponder;
-- (void)interpretKeyEvents:(NSArray<NSEvent *> *)events;
+- (void)interpretKeyEvents:(NSArray<NSEvent*>*)events;
 - (void)flushBufferedKeyEvents;
-@property(nullable, strong) NSMenu *menu;
-- (BOOL)validateProposedFirstResponder:(NSResponder *)responder forEvent:(nullable NSEvent *)event;
+@property(nullable, strong) NSMenu* menu;
+- (BOOL)validateProposedFirstResponder:(NSResponder*)responder forEvent:(nullable NSEvent*)event;
 - (BOOL)wantsScrollEventsForSwipeTrackingOnAxis:(NSInteger)axis;
-@property(nullable, readonly, strong) NSUndoManager *undoManager;
+@property(nullable, readonly, strong) NSUndoManager* undoManager;
 @end
 
 // What the keys are bound to. NSResponder declares these without implementing them.

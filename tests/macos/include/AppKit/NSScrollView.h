@@ -5,7 +5,12 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-typedef NS_ENUM(NSUInteger, NSBorderType) { NSNoBorder = 0, NSLineBorder = 1, NSBezelBorder = 2, NSGrooveBorder = 3 };
+typedef NS_ENUM(NSUInteger, NSBorderType) {
+    NSNoBorder = 0,
+    NSLineBorder = 1,
+    NSBezelBorder = 2,
+    NSGrooveBorder = 3
+};
 typedef NS_ENUM(NSInteger, NSScrollElasticity) {
     NSScrollElasticityAutomatic = 0,
     NSScrollElasticityNone = 1,
@@ -15,19 +20,20 @@ typedef NS_ENUM(NSInteger, NSScrollerStyle) { NSScrollerStyleLegacy = 0, NSScrol
 
 @interface NSScroller : NSControl
 @property(class, readonly) NSScrollerStyle preferredScrollerStyle;
-+ (CGFloat)scrollerWidthForControlSize:(NSControlSize)controlSize scrollerStyle:(NSScrollerStyle)scrollerStyle;
++ (CGFloat)scrollerWidthForControlSize:(NSControlSize)controlSize
+                         scrollerStyle:(NSScrollerStyle)scrollerStyle;
 @property NSScrollerStyle scrollerStyle;
 @end
 
 @interface NSClipView : NSView
-@property(copy) NSColor *backgroundColor;
+@property(copy) NSColor* backgroundColor;
 @property BOOL drawsBackground;
-@property(nullable, strong) __kindof NSView *documentView;
+@property(nullable, strong) __kindof NSView* documentView;
 @property(readonly) NSRect documentRect;
 @property(readonly) NSRect documentVisibleRect;
-- (void)viewFrameChanged:(NSNotification *)notification;
-- (void)viewBoundsChanged:(NSNotification *)notification;
-- (BOOL)autoscroll:(NSEvent *)event;
+- (void)viewFrameChanged:(NSNotification*)notification;
+- (void)viewBoundsChanged:(NSNotification*)notification;
+- (BOOL)autoscroll:(NSEvent*)event;
 - (void)scrollToPoint:(NSPoint)newOrigin;
 - (NSRect)constrainBoundsRect:(NSRect)proposedBounds;
 @property NSEdgeInsets contentInsets;
@@ -36,18 +42,18 @@ typedef NS_ENUM(NSInteger, NSScrollerStyle) { NSScrollerStyleLegacy = 0, NSScrol
 
 @interface NSScrollView : NSView
 - (instancetype)initWithFrame:(NSRect)frameRect NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder *)coder NS_DESIGNATED_INITIALIZER;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property(readonly) NSRect documentVisibleRect;
 @property(readonly) NSSize contentSize;
-@property(nullable, strong) __kindof NSView *documentView;
-@property(strong) NSClipView *contentView;
+@property(nullable, strong) __kindof NSView* documentView;
+@property(strong) NSClipView* contentView;
 @property NSBorderType borderType;
-@property(copy) NSColor *backgroundColor;
+@property(copy) NSColor* backgroundColor;
 @property BOOL drawsBackground;
 @property BOOL hasVerticalScroller;
 @property BOOL hasHorizontalScroller;
-@property(nullable, strong) NSScroller *verticalScroller;
-@property(nullable, strong) NSScroller *horizontalScroller;
+@property(nullable, strong) NSScroller* verticalScroller;
+@property(nullable, strong) NSScroller* horizontalScroller;
 @property BOOL autohidesScrollers;
 @property CGFloat verticalLineScroll;
 @property CGFloat verticalPageScroll;
@@ -59,8 +65,8 @@ typedef NS_ENUM(NSInteger, NSScrollerStyle) { NSScrollerStyleLegacy = 0, NSScrol
 @property BOOL automaticallyAdjustsContentInsets;
 @property NSEdgeInsets contentInsets;
 - (void)tile;
-- (void)reflectScrolledClipView:(NSClipView *)clipView;
-- (void)scrollWheel:(NSEvent *)event;
+- (void)reflectScrolledClipView:(NSClipView*)clipView;
+- (void)scrollWheel:(NSEvent*)event;
 - (void)flashScrollers;
 @end
 

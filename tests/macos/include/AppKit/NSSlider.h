@@ -43,9 +43,9 @@ typedef NS_ENUM(NSUInteger, NSTickMarkPosition) {
 @property double maxValue;
 @property double altIncrementValue;
 @property(readonly) CGFloat knobThickness;
-- (BOOL)acceptsFirstMouse:(nullable NSEvent *)event;
+- (BOOL)acceptsFirstMouse:(nullable NSEvent*)event;
 @property(getter=isVertical) BOOL vertical;
-@property(nullable, copy) NSColor *trackFillColor;
+@property(nullable, copy) NSColor* trackFillColor;
 @property NSInteger numberOfTickMarks;
 @property NSTickMarkPosition tickMarkPosition;
 @property BOOL allowsTickMarkValuesOnly;

@@ -21,21 +21,22 @@ typedef NS_ENUM(NSInteger, NSStackViewDistribution) {
 };
 
 @interface NSStackView : NSView
-+ (instancetype)stackViewWithViews:(NSArray<NSView *> *)views;
++ (instancetype)stackViewWithViews:(NSArray<NSView*>*)views;
 @property NSUserInterfaceLayoutOrientation orientation;
 @property NSLayoutAttribute alignment;
 @property NSEdgeInsets edgeInsets;
 @property NSStackViewDistribution distribution;
 @property CGFloat spacing;
-- (void)setCustomSpacing:(CGFloat)spacing afterView:(NSView *)view;
+- (void)setCustomSpacing:(CGFloat)spacing afterView:(NSView*)view;
 @property BOOL detachesHiddenViews;
-@property(readonly, copy) NSArray<__kindof NSView *> *arrangedSubviews;
-- (void)addArrangedSubview:(NSView *)view;
-- (void)insertArrangedSubview:(NSView *)view atIndex:(NSInteger)insertionIndex;
-- (void)removeArrangedSubview:(NSView *)view;
-- (void)addView:(NSView *)view inGravity:(NSStackViewGravity)gravity;
-- (void)setViews:(NSArray<NSView *> *)views inGravity:(NSStackViewGravity)gravity;
-- (void)setHuggingPriority:(NSLayoutPriority)priority forOrientation:(NSLayoutConstraintOrientation)orientation;
+@property(readonly, copy) NSArray<__kindof NSView*>* arrangedSubviews;
+- (void)addArrangedSubview:(NSView*)view;
+- (void)insertArrangedSubview:(NSView*)view atIndex:(NSInteger)insertionIndex;
+- (void)removeArrangedSubview:(NSView*)view;
+- (void)addView:(NSView*)view inGravity:(NSStackViewGravity)gravity;
+- (void)setViews:(NSArray<NSView*>*)views inGravity:(NSStackViewGravity)gravity;
+- (void)setHuggingPriority:(NSLayoutPriority)priority
+            forOrientation:(NSLayoutConstraintOrientation)orientation;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -7,7 +7,7 @@ NS_ASSUME_NONNULL_BEGIN
 static const CGFloat NSVariableStatusItemLength = -1.0;
 static const CGFloat NSSquareStatusItemLength = -2.0;
 
-typedef NSString *NSStatusItemAutosaveName;
+typedef NSString* NSStatusItemAutosaveName;
 typedef NS_OPTIONS(NSUInteger, NSStatusItemBehavior) {
     NSStatusItemBehaviorRemovalAllowed = (1 << 1),
     NSStatusItemBehaviorTerminationOnRemoval = (1 << 2),
@@ -18,19 +18,19 @@ typedef NS_OPTIONS(NSUInteger, NSStatusItemBehavior) {
 @end
 
 @interface NSStatusItem : NSObject
-@property(nullable, readonly, weak) NSStatusBar *statusBar;
+@property(nullable, readonly, weak) NSStatusBar* statusBar;
 @property CGFloat length;
-@property(nullable, strong) NSMenu *menu;
-@property(nullable, readonly, strong) NSStatusBarButton *button;
+@property(nullable, strong) NSMenu* menu;
+@property(nullable, readonly, strong) NSStatusBarButton* button;
 @property NSStatusItemBehavior behavior;
 @property(getter=isVisible) BOOL visible;
 @property(null_resettable, copy) NSStatusItemAutosaveName autosaveName;
 @end
 
 @interface NSStatusBar : NSObject
-@property(class, readonly, strong) NSStatusBar *systemStatusBar;
-- (NSStatusItem *)statusItemWithLength:(CGFloat)length;
-- (void)removeStatusItem:(NSStatusItem *)item;
+@property(class, readonly, strong) NSStatusBar* systemStatusBar;
+- (NSStatusItem*)statusItemWithLength:(CGFloat)length;
+- (void)removeStatusItem:(NSStatusItem*)item;
 @property(readonly, getter=isVertical) BOOL vertical;
 @property(readonly) CGFloat thickness;
 @end

@@ -20,24 +20,24 @@ enum {
 
 @protocol NSTextDelegate <NSObject>
 @optional
-- (BOOL)textShouldBeginEditing:(NSText *)textObject;
-- (BOOL)textShouldEndEditing:(NSText *)textObject;
-- (void)textDidBeginEditing:(NSNotification *)notification;
-- (void)textDidEndEditing:(NSNotification *)notification;
-- (void)textDidChange:(NSNotification *)notification;
+- (BOOL)textShouldBeginEditing:(NSText*)textObject;
+- (BOOL)textShouldEndEditing:(NSText*)textObject;
+- (void)textDidBeginEditing:(NSNotification*)notification;
+- (void)textDidEndEditing:(NSNotification*)notification;
+- (void)textDidChange:(NSNotification*)notification;
 @end
 
 @interface NSText : NSView
 - (instancetype)initWithFrame:(NSRect)frameRect NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder *)coder NS_DESIGNATED_INITIALIZER;
-@property(copy) NSString *string;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
+@property(copy) NSString* string;
 @property(nullable, weak) id<NSTextDelegate> delegate;
 @property(getter=isEditable) BOOL editable;
 @property(getter=isSelectable) BOOL selectable;
 @property BOOL drawsBackground;
 @property NSRange selectedRange;
-@property(nullable, strong) NSFont *font;
-@property(nullable, copy) NSColor *textColor;
+@property(nullable, strong) NSFont* font;
+@property(nullable, copy) NSColor* textColor;
 @property NSTextAlignment alignment;
 - (void)selectAll:(nullable id)sender;
 - (void)copy:(nullable id)sender;
@@ -47,7 +47,7 @@ enum {
 
 @protocol NSTextViewDelegate <NSTextDelegate>
 @optional
-- (BOOL)textView:(NSTextView *)textView doCommandBySelector:(SEL)commandSelector;
+- (BOOL)textView:(NSTextView*)textView doCommandBySelector:(SEL)commandSelector;
 @end
 
 @interface NSTextView : NSText

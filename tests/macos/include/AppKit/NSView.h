@@ -29,30 +29,35 @@ APPKIT_EXTERN const CGFloat NSViewNoIntrinsicMetric;
 APPKIT_EXTERN NSNotificationName const NSViewFrameDidChangeNotification;
 APPKIT_EXTERN NSNotificationName const NSViewBoundsDidChangeNotification;
 
-@interface NSView : NSResponder <NSAnimatablePropertyContainer, NSUserInterfaceItemIdentification, NSAppearanceCustomization,
-                                 NSAccessibilityElement, NSAccessibility>
+@interface NSView : NSResponder <NSAnimatablePropertyContainer,
+                                 NSUserInterfaceItemIdentification,
+                                 NSAppearanceCustomization,
+                                 NSAccessibilityElement,
+                                 NSAccessibility>
 - (instancetype)initWithFrame:(NSRect)frameRect NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder *)coder NS_DESIGNATED_INITIALIZER;
-@property(nullable, readonly, assign) NSWindow *window;
-@property(nullable, readonly, assign) NSView *superview;
-@property(copy) NSArray<__kindof NSView *> *subviews;
-- (BOOL)isDescendantOf:(NSView *)view;
-- (nullable NSView *)ancestorSharedWithView:(NSView *)view;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
+@property(nullable, readonly, assign) NSWindow* window;
+@property(nullable, readonly, assign) NSView* superview;
+@property(copy) NSArray<__kindof NSView*>* subviews;
+- (BOOL)isDescendantOf:(NSView*)view;
+- (nullable NSView*)ancestorSharedWithView:(NSView*)view;
 @property(getter=isHidden) BOOL hidden;
 @property(getter=isHiddenOrHasHiddenAncestor, readonly) BOOL hiddenOrHasHiddenAncestor;
-- (void)addSubview:(NSView *)view;
-- (void)addSubview:(NSView *)view positioned:(NSWindowOrderingMode)place relativeTo:(nullable NSView *)otherView;
-- (void)sortSubviewsUsingFunction:(NSComparisonResult(NS_NOESCAPE *)(__kindof NSView *, __kindof NSView *,
-                                                                     void *_Nullable))compare
-                          context:(nullable void *)context;
-- (void)viewWillMoveToWindow:(nullable NSWindow *)newWindow;
+- (void)addSubview:(NSView*)view;
+- (void)addSubview:(NSView*)view
+        positioned:(NSWindowOrderingMode)place
+        relativeTo:(nullable NSView*)otherView;
+- (void)sortSubviewsUsingFunction:(NSComparisonResult(NS_NOESCAPE*)(__kindof NSView*, __kindof NSView*,
+                                                                    void* _Nullable))compare
+                          context:(nullable void*)context;
+- (void)viewWillMoveToWindow:(nullable NSWindow*)newWindow;
 - (void)viewDidMoveToWindow;
-- (void)viewWillMoveToSuperview:(nullable NSView *)newSuperview;
+- (void)viewWillMoveToSuperview:(nullable NSView*)newSuperview;
 - (void)viewDidMoveToSuperview;
-- (void)didAddSubview:(NSView *)subview;
-- (void)willRemoveSubview:(NSView *)subview;
+- (void)didAddSubview:(NSView*)subview;
+- (void)willRemoveSubview:(NSView*)subview;
 - (void)removeFromSuperview;
-- (void)replaceSubview:(NSView *)oldView with:(NSView *)newView;
+- (void)replaceSubview:(NSView*)oldView with:(NSView*)newView;
 - (void)removeFromSuperviewWithoutNeedingDisplay;
 - (void)viewDidChangeBackingProperties;
 @property BOOL postsFrameChangedNotifications;
@@ -70,12 +75,12 @@ APPKIT_EXTERN NSNotificationName const NSViewBoundsDidChangeNotification;
 @property NSRect bounds;
 @property(getter=isFlipped, readonly) BOOL flipped;
 @property(getter=isOpaque, readonly) BOOL opaque;
-- (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView *)view;
-- (NSPoint)convertPoint:(NSPoint)point toView:(nullable NSView *)view;
-- (NSSize)convertSize:(NSSize)size fromView:(nullable NSView *)view;
-- (NSSize)convertSize:(NSSize)size toView:(nullable NSView *)view;
-- (NSRect)convertRect:(NSRect)rect fromView:(nullable NSView *)view;
-- (NSRect)convertRect:(NSRect)rect toView:(nullable NSView *)view;
+- (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView*)view;
+- (NSPoint)convertPoint:(NSPoint)point toView:(nullable NSView*)view;
+- (NSSize)convertSize:(NSSize)size fromView:(nullable NSView*)view;
+- (NSSize)convertSize:(NSSize)size toView:(nullable NSView*)view;
+- (NSRect)convertRect:(NSRect)rect fromView:(nullable NSView*)view;
+- (NSRect)convertRect:(NSRect)rect toView:(nullable NSView*)view;
 - (NSRect)backingAlignedRect:(NSRect)rect options:(unsigned long long)options;
 - (NSRect)centerScanRect:(NSRect)rect;
 @property BOOL canDrawConcurrently;
@@ -84,11 +89,11 @@ APPKIT_EXTERN NSNotificationName const NSViewBoundsDidChangeNotification;
 - (void)display;
 - (void)displayIfNeeded;
 - (void)drawRect:(NSRect)dirtyRect;
-- (nullable __kindof NSView *)viewWithTag:(NSInteger)tag;
+- (nullable __kindof NSView*)viewWithTag:(NSInteger)tag;
 @property(readonly) NSInteger tag;
-- (nullable NSView *)hitTest:(NSPoint)point;
+- (nullable NSView*)hitTest:(NSPoint)point;
 - (BOOL)mouse:(NSPoint)point inRect:(NSRect)rect;
-- (BOOL)acceptsFirstMouse:(nullable NSEvent *)event;
+- (BOOL)acceptsFirstMouse:(nullable NSEvent*)event;
 @property(readonly) BOOL mouseDownCanMoveWindow;
 @property(readonly) BOOL needsPanelToBecomeKey;
 - (void)scrollPoint:(NSPoint)point;
@@ -97,31 +102,31 @@ APPKIT_EXTERN NSNotificationName const NSViewBoundsDidChangeNotification;
 @property(readonly) BOOL wantsUpdateLayer;
 - (void)updateLayer;
 @property BOOL wantsLayer;
-@property(nullable, strong) CALayer *layer;
-- (CALayer *)makeBackingLayer;
+@property(nullable, strong) CALayer* layer;
+- (CALayer*)makeBackingLayer;
 @property NSViewLayerContentsRedrawPolicy layerContentsRedrawPolicy;
 @property BOOL canDrawSubviewsIntoLayer;
-// unsure: that `clipsToBounds` is declared by headers of macOS 14 and later only, usable before
+// unsure: that only headers of macOS 14 and later declare `clipsToBounds`, usable before
 @property BOOL clipsToBounds;
 @property CGFloat alphaValue;
-@property(nullable, copy) NSShadow *shadow;
-- (void)addTrackingArea:(NSTrackingArea *)trackingArea;
-- (void)removeTrackingArea:(NSTrackingArea *)trackingArea;
-@property(readonly, copy) NSArray<NSTrackingArea *> *trackingAreas;
+@property(nullable, copy) NSShadow* shadow;
+- (void)addTrackingArea:(NSTrackingArea*)trackingArea;
+- (void)removeTrackingArea:(NSTrackingArea*)trackingArea;
+@property(readonly, copy) NSArray<NSTrackingArea*>* trackingAreas;
 - (void)updateTrackingAreas;
-- (void)addCursorRect:(NSRect)rect cursor:(NSCursor *)cursor;
+- (void)addCursorRect:(NSRect)rect cursor:(NSCursor*)cursor;
 - (void)resetCursorRects;
-@property(nullable, copy) NSString *toolTip;
-- (NSToolTipTag)addToolTipRect:(NSRect)rect owner:(id)owner userData:(nullable void *)data;
+@property(nullable, copy) NSString* toolTip;
+- (NSToolTipTag)addToolTipRect:(NSRect)rect owner:(id)owner userData:(nullable void*)data;
 - (void)removeAllToolTips;
-- (nullable NSMenu *)menuForEvent:(NSEvent *)event;
-@property(class, readonly, nullable) NSMenu *defaultMenu;
-- (void)willOpenMenu:(NSMenu *)menu withEvent:(NSEvent *)event;
-- (void)didCloseMenu:(NSMenu *)menu withEvent:(nullable NSEvent *)event;
-@property(nullable, assign) NSView *nextKeyView;
-@property(nullable, readonly, assign) NSView *previousKeyView;
-@property(nullable, readonly, assign) NSView *nextValidKeyView;
-@property(nullable, readonly, assign) NSView *previousValidKeyView;
+- (nullable NSMenu*)menuForEvent:(NSEvent*)event;
+@property(class, readonly, nullable) NSMenu* defaultMenu;
+- (void)willOpenMenu:(NSMenu*)menu withEvent:(NSEvent*)event;
+- (void)didCloseMenu:(NSMenu*)menu withEvent:(nullable NSEvent*)event;
+@property(nullable, assign) NSView* nextKeyView;
+@property(nullable, readonly, assign) NSView* previousKeyView;
+@property(nullable, readonly, assign) NSView* nextValidKeyView;
+@property(nullable, readonly, assign) NSView* previousValidKeyView;
 @property(readonly) BOOL canBecomeKeyView;
 @property NSFocusRingType focusRingType;
 - (void)drawFocusRingMask;
@@ -136,29 +141,29 @@ APPKIT_EXTERN NSNotificationName const NSViewBoundsDidChangeNotification;
 @property(readonly) NSRect preparedContentRect;
 @property NSUserInterfaceLayoutDirection userInterfaceLayoutDirection;
 @property(readonly) NSEdgeInsets safeAreaInsets API_AVAILABLE(macos(11.0));
-- (void)addGestureRecognizer:(NSGestureRecognizer *)gestureRecognizer;
-- (void)removeGestureRecognizer:(NSGestureRecognizer *)gestureRecognizer;
-@property(copy) NSArray<__kindof NSGestureRecognizer *> *gestureRecognizers;
+- (void)addGestureRecognizer:(NSGestureRecognizer*)gestureRecognizer;
+- (void)removeGestureRecognizer:(NSGestureRecognizer*)gestureRecognizer;
+@property(copy) NSArray<__kindof NSGestureRecognizer*>* gestureRecognizers;
 @end
 
 @interface NSView (NSConstraintBasedLayout)
-@property(readonly, strong) NSLayoutXAxisAnchor *leadingAnchor;
-@property(readonly, strong) NSLayoutXAxisAnchor *trailingAnchor;
-@property(readonly, strong) NSLayoutXAxisAnchor *leftAnchor;
-@property(readonly, strong) NSLayoutXAxisAnchor *rightAnchor;
-@property(readonly, strong) NSLayoutYAxisAnchor *topAnchor;
-@property(readonly, strong) NSLayoutYAxisAnchor *bottomAnchor;
-@property(readonly, strong) NSLayoutDimension *widthAnchor;
-@property(readonly, strong) NSLayoutDimension *heightAnchor;
-@property(readonly, strong) NSLayoutXAxisAnchor *centerXAnchor;
-@property(readonly, strong) NSLayoutYAxisAnchor *centerYAnchor;
-@property(readonly, strong) NSLayoutYAxisAnchor *firstBaselineAnchor;
-@property(readonly, strong) NSLayoutYAxisAnchor *lastBaselineAnchor;
-@property(readonly, copy) NSArray<NSLayoutConstraint *> *constraints;
-- (void)addConstraint:(NSLayoutConstraint *)constraint;
-- (void)addConstraints:(NSArray<NSLayoutConstraint *> *)constraints;
-- (void)removeConstraint:(NSLayoutConstraint *)constraint;
-- (void)removeConstraints:(NSArray<NSLayoutConstraint *> *)constraints;
+@property(readonly, strong) NSLayoutXAxisAnchor* leadingAnchor;
+@property(readonly, strong) NSLayoutXAxisAnchor* trailingAnchor;
+@property(readonly, strong) NSLayoutXAxisAnchor* leftAnchor;
+@property(readonly, strong) NSLayoutXAxisAnchor* rightAnchor;
+@property(readonly, strong) NSLayoutYAxisAnchor* topAnchor;
+@property(readonly, strong) NSLayoutYAxisAnchor* bottomAnchor;
+@property(readonly, strong) NSLayoutDimension* widthAnchor;
+@property(readonly, strong) NSLayoutDimension* heightAnchor;
+@property(readonly, strong) NSLayoutXAxisAnchor* centerXAnchor;
+@property(readonly, strong) NSLayoutYAxisAnchor* centerYAnchor;
+@property(readonly, strong) NSLayoutYAxisAnchor* firstBaselineAnchor;
+@property(readonly, strong) NSLayoutYAxisAnchor* lastBaselineAnchor;
+@property(readonly, copy) NSArray<NSLayoutConstraint*>* constraints;
+- (void)addConstraint:(NSLayoutConstraint*)constraint;
+- (void)addConstraints:(NSArray<NSLayoutConstraint*>*)constraints;
+- (void)removeConstraint:(NSLayoutConstraint*)constraint;
+- (void)removeConstraints:(NSArray<NSLayoutConstraint*>*)constraints;
 - (void)layoutSubtreeIfNeeded;
 - (void)layout NS_REQUIRES_SUPER;
 @property BOOL needsUpdateConstraints;
@@ -176,8 +181,10 @@ APPKIT_EXTERN NSNotificationName const NSViewBoundsDidChangeNotification;
 @property(readonly) NSSize intrinsicContentSize;
 - (void)invalidateIntrinsicContentSize;
 - (NSLayoutPriority)contentHuggingPriorityForOrientation:(NSLayoutConstraintOrientation)orientation;
-- (void)setContentHuggingPriority:(NSLayoutPriority)priority forOrientation:(NSLayoutConstraintOrientation)orientation;
-- (NSLayoutPriority)contentCompressionResistancePriorityForOrientation:(NSLayoutConstraintOrientation)orientation;
+- (void)setContentHuggingPriority:(NSLayoutPriority)priority
+                   forOrientation:(NSLayoutConstraintOrientation)orientation;
+- (NSLayoutPriority)contentCompressionResistancePriorityForOrientation:
+    (NSLayoutConstraintOrientation)orientation;
 - (void)setContentCompressionResistancePriority:(NSLayoutPriority)priority
                                  forOrientation:(NSLayoutConstraintOrientation)orientation;
 @property(readonly) NSSize fittingSize;
@@ -213,7 +220,7 @@ typedef NS_ENUM(NSInteger, NSVisualEffectState) {
 @property NSVisualEffectMaterial material;
 @property NSVisualEffectBlendingMode blendingMode;
 @property NSVisualEffectState state;
-@property(nullable, retain) NSImage *maskImage;
+@property(nullable, retain) NSImage* maskImage;
 @property(getter=isEmphasized) BOOL emphasized;
 @end
 

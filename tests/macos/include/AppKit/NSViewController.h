@@ -4,19 +4,19 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-typedef NSString *NSNibName;
+typedef NSString* NSNibName;
 
 @interface NSViewController : NSResponder <NSUserInterfaceItemIdentification>
 - (instancetype)initWithNibName:(nullable NSNibName)nibNameOrNil
-                         bundle:(nullable NSBundle *)nibBundleOrNil NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder *)coder NS_DESIGNATED_INITIALIZER;
+                         bundle:(nullable NSBundle*)nibBundleOrNil NS_DESIGNATED_INITIALIZER;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 @property(nullable, strong) id representedObject;
-@property(nullable, copy) NSString *title;
-@property(strong) NSView *view;
+@property(nullable, copy) NSString* title;
+@property(strong) NSView* view;
 - (void)loadView;
 - (void)viewDidLoad;
 @property(readonly, getter=isViewLoaded) BOOL viewLoaded;
-// unsure: that `loadViewIfNeeded` is declared by headers of macOS 14 and later only, usable before
+// unsure: that only headers of macOS 14 and later declare `loadViewIfNeeded`, usable before
 - (void)loadViewIfNeeded;
 - (void)viewWillAppear;
 - (void)viewDidAppear;
@@ -26,9 +26,9 @@ typedef NSString *NSNibName;
 - (void)updateViewConstraints;
 - (void)viewWillLayout;
 - (void)viewDidLayout;
-@property(nullable, readonly) NSViewController *parentViewController;
-@property(copy) NSArray<__kindof NSViewController *> *childViewControllers;
-- (void)addChildViewController:(NSViewController *)childViewController;
+@property(nullable, readonly) NSViewController* parentViewController;
+@property(copy) NSArray<__kindof NSViewController*>* childViewControllers;
+- (void)addChildViewController:(NSViewController*)childViewController;
 - (void)removeFromParentViewController;
 - (void)dismissController:(nullable id)sender;
 @end

@@ -58,13 +58,16 @@ static const NSWindowLevel NSModalPanelWindowLevel = 8;
 static const NSWindowLevel NSMainMenuWindowLevel = 24;
 static const NSWindowLevel NSStatusWindowLevel = 25;
 static const NSWindowLevel NSPopUpMenuWindowLevel = 101;
-typedef NSString *NSWindowFrameAutosaveName;
+typedef NSString* NSWindowFrameAutosaveName;
 typedef NSInteger NSModalResponse NS_TYPED_EXTENSIBLE_ENUM;
 static const NSModalResponse NSModalResponseOK = 1;
 static const NSModalResponse NSModalResponseCancel = 0;
 
-@interface NSWindow : NSResponder <NSAnimatablePropertyContainer, NSUserInterfaceValidations,
-                                   NSUserInterfaceItemIdentification, NSAppearanceCustomization, NSAccessibilityElement,
+@interface NSWindow : NSResponder <NSAnimatablePropertyContainer,
+                                   NSUserInterfaceValidations,
+                                   NSUserInterfaceItemIdentification,
+                                   NSAppearanceCustomization,
+                                   NSAccessibilityElement,
                                    NSAccessibility>
 + (NSRect)frameRectForContentRect:(NSRect)contentRect styleMask:(NSWindowStyleMask)style;
 + (NSRect)contentRectForFrameRect:(NSRect)frameRect styleMask:(NSWindowStyleMask)style;
@@ -78,20 +81,20 @@ static const NSModalResponse NSModalResponseCancel = 0;
                           styleMask:(NSWindowStyleMask)style
                             backing:(NSBackingStoreType)backingStoreType
                               defer:(BOOL)flag
-                             screen:(nullable NSScreen *)screen;
+                             screen:(nullable NSScreen*)screen;
 // unsure: whether a window's `initWithCoder:` is unavailable
-- (nullable instancetype)initWithCoder:(NSCoder *)coder NS_UNAVAILABLE;
-+ (instancetype)windowWithContentViewController:(NSViewController *)contentViewController;
-@property(copy) NSString *title;
-@property(copy) NSString *subtitle API_AVAILABLE(macos(11.0));
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_UNAVAILABLE;
++ (instancetype)windowWithContentViewController:(NSViewController*)contentViewController;
+@property(copy) NSString* title;
+@property(copy) NSString* subtitle API_AVAILABLE(macos(11.0));
 @property NSWindowTitleVisibility titleVisibility;
 @property BOOL titlebarAppearsTransparent;
-@property(nullable, strong) __kindof NSView *contentView;
-@property(nullable, strong) NSViewController *contentViewController;
+@property(nullable, strong) __kindof NSView* contentView;
+@property(nullable, strong) NSViewController* contentViewController;
 @property(nullable, weak) id<NSWindowDelegate> delegate;
 @property(readonly) NSInteger windowNumber;
 @property NSWindowStyleMask styleMask;
-- (nullable NSText *)fieldEditor:(BOOL)createFlag forObject:(nullable id)object;
+- (nullable NSText*)fieldEditor:(BOOL)createFlag forObject:(nullable id)object;
 - (void)endEditingFor:(nullable id)object;
 - (void)setContentSize:(NSSize)size;
 - (void)setFrameOrigin:(NSPoint)point;
@@ -101,17 +104,17 @@ static const NSModalResponse NSModalResponseCancel = 0;
 - (NSTimeInterval)animationResizeTime:(NSRect)newFrame;
 - (void)setFrame:(NSRect)frameRect display:(BOOL)flag;
 - (void)setFrame:(NSRect)frameRect display:(BOOL)displayFlag animate:(BOOL)animateFlag;
-- (NSRect)constrainFrameRect:(NSRect)frameRect toScreen:(nullable NSScreen *)screen;
+- (NSRect)constrainFrameRect:(NSRect)frameRect toScreen:(nullable NSScreen*)screen;
 @property BOOL viewsNeedDisplay;
 - (void)displayIfNeeded;
 - (void)display;
 - (void)update;
-- (BOOL)makeFirstResponder:(nullable NSResponder *)responder;
-@property(nullable, readonly, weak) NSResponder *firstResponder;
-@property(nullable, weak) NSView *initialFirstResponder;
+- (BOOL)makeFirstResponder:(nullable NSResponder*)responder;
+@property(nullable, readonly, weak) NSResponder* firstResponder;
+@property(nullable, weak) NSView* initialFirstResponder;
 - (void)selectNextKeyView:(nullable id)sender;
 - (void)selectPreviousKeyView:(nullable id)sender;
-- (void)selectKeyViewFollowingView:(NSView *)view;
+- (void)selectKeyViewFollowingView:(NSView*)view;
 - (void)disableKeyEquivalentForDefaultButtonCell;
 @property BOOL autorecalculatesKeyViewLoop;
 - (void)recalculateKeyViewLoop;
@@ -128,7 +131,7 @@ static const NSModalResponse NSModalResponseCancel = 0;
 - (void)orderFrontRegardless;
 @property(getter=isMiniaturized, readonly) BOOL miniaturized;
 // unsure: whether `backgroundColor` is nullable, null_resettable or nonnull
-@property(null_resettable, copy) NSColor *backgroundColor;
+@property(null_resettable, copy) NSColor* backgroundColor;
 @property(getter=isMovable) BOOL movable;
 @property(getter=isMovableByWindowBackground) BOOL movableByWindowBackground;
 @property BOOL hidesOnDeactivate;
@@ -152,7 +155,7 @@ static const NSModalResponse NSModalResponseCancel = 0;
 - (NSPoint)convertPointToScreen:(NSPoint)point;
 - (NSPoint)convertPointFromScreen:(NSPoint)point;
 @property NSWindowLevel level;
-@property(nullable, readonly, strong) NSScreen *screen;
+@property(nullable, readonly, strong) NSScreen* screen;
 @property BOOL hasShadow;
 - (void)invalidateShadow;
 @property CGFloat alphaValue;
@@ -170,46 +173,47 @@ static const NSModalResponse NSModalResponseCancel = 0;
 @property NSSize contentMinSize;
 @property NSSize contentMaxSize;
 @property(readonly) NSRect contentLayoutRect;
-- (nullable NSButton *)standardWindowButton:(NSWindowButton)button;
-- (void)addChildWindow:(NSWindow *)childWindow ordered:(NSWindowOrderingMode)place;
-- (void)removeChildWindow:(NSWindow *)childWindow;
-@property(nullable, readonly, copy) NSArray<__kindof NSWindow *> *childWindows;
-@property(nullable, weak) NSWindow *parentWindow;
+- (nullable NSButton*)standardWindowButton:(NSWindowButton)button;
+- (void)addChildWindow:(NSWindow*)childWindow ordered:(NSWindowOrderingMode)place;
+- (void)removeChildWindow:(NSWindow*)childWindow;
+@property(nullable, readonly, copy) NSArray<__kindof NSWindow*>* childWindows;
+@property(nullable, weak) NSWindow* parentWindow;
 @property BOOL acceptsMouseMovedEvents;
 @property BOOL ignoresMouseEvents;
-@property(nullable, readonly, strong) NSEvent *currentEvent;
-- (void)sendEvent:(NSEvent *)event;
-- (void)postEvent:(NSEvent *)event atStart:(BOOL)flag;
+@property(nullable, readonly, strong) NSEvent* currentEvent;
+- (void)sendEvent:(NSEvent*)event;
+- (void)postEvent:(NSEvent*)event atStart:(BOOL)flag;
 @property(readonly) NSPoint mouseLocationOutsideOfEventStream;
 - (void)layoutIfNeeded;
 @property(getter=isRestorable) BOOL restorable;
 @property(getter=isExcludedFromWindowsMenu) BOOL excludedFromWindowsMenu;
-- (void)beginSheet:(NSWindow *)sheetWindow completionHandler:(nullable void (^)(NSModalResponse returnCode))handler;
-- (void)endSheet:(NSWindow *)sheetWindow;
+- (void)beginSheet:(NSWindow*)sheetWindow
+    completionHandler:(nullable void (^)(NSModalResponse returnCode))handler;
+- (void)endSheet:(NSWindow*)sheetWindow;
 @end
 
 @protocol NSWindowDelegate <NSObject>
 @optional
-- (BOOL)windowShouldClose:(NSWindow *)sender;
-- (nullable id)windowWillReturnFieldEditor:(NSWindow *)sender toObject:(nullable id)client;
-- (NSSize)windowWillResize:(NSWindow *)sender toSize:(NSSize)frameSize;
-- (BOOL)windowShouldZoom:(NSWindow *)window toFrame:(NSRect)newFrame;
-- (void)windowDidResize:(NSNotification *)notification;
-- (void)windowDidExpose:(NSNotification *)notification;
-- (void)windowWillMove:(NSNotification *)notification;
-- (void)windowDidMove:(NSNotification *)notification;
-- (void)windowDidBecomeKey:(NSNotification *)notification;
-- (void)windowDidResignKey:(NSNotification *)notification;
-- (void)windowDidBecomeMain:(NSNotification *)notification;
-- (void)windowDidResignMain:(NSNotification *)notification;
-- (void)windowWillClose:(NSNotification *)notification;
-- (void)windowDidMiniaturize:(NSNotification *)notification;
-- (void)windowDidDeminiaturize:(NSNotification *)notification;
-- (void)windowDidUpdate:(NSNotification *)notification;
-- (void)windowDidChangeScreen:(NSNotification *)notification;
-- (void)windowDidChangeBackingProperties:(NSNotification *)notification;
-- (void)windowDidChangeOcclusionState:(NSNotification *)notification;
-- (void)windowDidEndLiveResize:(NSNotification *)notification;
+- (BOOL)windowShouldClose:(NSWindow*)sender;
+- (nullable id)windowWillReturnFieldEditor:(NSWindow*)sender toObject:(nullable id)client;
+- (NSSize)windowWillResize:(NSWindow*)sender toSize:(NSSize)frameSize;
+- (BOOL)windowShouldZoom:(NSWindow*)window toFrame:(NSRect)newFrame;
+- (void)windowDidResize:(NSNotification*)notification;
+- (void)windowDidExpose:(NSNotification*)notification;
+- (void)windowWillMove:(NSNotification*)notification;
+- (void)windowDidMove:(NSNotification*)notification;
+- (void)windowDidBecomeKey:(NSNotification*)notification;
+- (void)windowDidResignKey:(NSNotification*)notification;
+- (void)windowDidBecomeMain:(NSNotification*)notification;
+- (void)windowDidResignMain:(NSNotification*)notification;
+- (void)windowWillClose:(NSNotification*)notification;
+- (void)windowDidMiniaturize:(NSNotification*)notification;
+- (void)windowDidDeminiaturize:(NSNotification*)notification;
+- (void)windowDidUpdate:(NSNotification*)notification;
+- (void)windowDidChangeScreen:(NSNotification*)notification;
+- (void)windowDidChangeBackingProperties:(NSNotification*)notification;
+- (void)windowDidChangeOcclusionState:(NSNotification*)notification;
+- (void)windowDidEndLiveResize:(NSNotification*)notification;
 @end
 
 APPKIT_EXTERN NSNotificationName const NSWindowDidBecomeKeyNotification;
@@ -228,10 +232,10 @@ APPKIT_EXTERN NSNotificationName const NSWindowDidChangeOcclusionStateNotificati
 @end
 
 @interface NSWindowController : NSResponder
-- (instancetype)initWithWindow:(nullable NSWindow *)window NS_DESIGNATED_INITIALIZER;
-- (nullable instancetype)initWithCoder:(NSCoder *)coder NS_DESIGNATED_INITIALIZER;
-@property(nullable, strong) NSWindow *window;
-@property(nullable, strong) NSViewController *contentViewController;
+- (instancetype)initWithWindow:(nullable NSWindow*)window NS_DESIGNATED_INITIALIZER;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
+@property(nullable, strong) NSWindow* window;
+@property(nullable, strong) NSViewController* contentViewController;
 - (void)showWindow:(nullable id)sender;
 - (void)close;
 @end

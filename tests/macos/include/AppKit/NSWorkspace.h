@@ -5,10 +5,10 @@
 NS_ASSUME_NONNULL_BEGIN
 
 @interface NSWorkspace : NSObject
-@property(class, readonly, strong) NSWorkspace *sharedWorkspace;
-@property(readonly, strong) NSNotificationCenter *notificationCenter;
-- (BOOL)openURL:(NSURL *)url;
-- (nullable NSURL *)URLForApplicationWithBundleIdentifier:(NSString *)bundleIdentifier;
+@property(class, readonly, strong) NSWorkspace* sharedWorkspace;
+@property(readonly, strong) NSNotificationCenter* notificationCenter;
+- (BOOL)openURL:(NSURL*)url;
+- (nullable NSURL*)URLForApplicationWithBundleIdentifier:(NSString*)bundleIdentifier;
 @property(readonly) BOOL accessibilityDisplayShouldIncreaseContrast;
 @property(readonly) BOOL accessibilityDisplayShouldDifferentiateWithoutColor;
 @property(readonly) BOOL accessibilityDisplayShouldReduceTransparency;
@@ -32,11 +32,11 @@ typedef NS_OPTIONS(NSUInteger, NSApplicationActivationOptions) {
 };
 
 @interface NSRunningApplication : NSObject
-@property(class, readonly, strong) NSRunningApplication *currentApplication;
-+ (NSArray<NSRunningApplication *> *)runningApplicationsWithBundleIdentifier:(NSString *)bundleIdentifier;
+@property(class, readonly, strong) NSRunningApplication* currentApplication;
++ (NSArray<NSRunningApplication*>*)runningApplicationsWithBundleIdentifier:(NSString*)bundleIdentifier;
 @property(readonly, getter=isTerminated) BOOL terminated;
 @property(readonly, getter=isActive) BOOL active;
-@property(nullable, readonly, copy) NSString *bundleIdentifier;
+@property(nullable, readonly, copy) NSString* bundleIdentifier;
 @property(readonly) int processIdentifier;
 - (BOOL)activateWithOptions:(NSApplicationActivationOptions)options;
 - (BOOL)terminate;

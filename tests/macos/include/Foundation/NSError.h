@@ -4,9 +4,9 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-typedef NSString *NSErrorDomain;
-typedef NSString *NSErrorUserInfoKey;
-typedef NSString *NSExceptionName NS_TYPED_EXTENSIBLE_ENUM;
+typedef NSString* NSErrorDomain;
+typedef NSString* NSErrorUserInfoKey;
+typedef NSString* NSExceptionName NS_TYPED_EXTENSIBLE_ENUM;
 
 FOUNDATION_EXPORT NSErrorDomain const NSCocoaErrorDomain;
 FOUNDATION_EXPORT NSErrorDomain const NSPOSIXErrorDomain;
@@ -17,23 +17,24 @@ FOUNDATION_EXPORT NSErrorUserInfoKey const NSUnderlyingErrorKey;
 @interface NSError : NSObject <NSCopying, NSSecureCoding>
 - (instancetype)initWithDomain:(NSErrorDomain)domain
                           code:(NSInteger)code
-                      userInfo:(nullable NSDictionary<NSErrorUserInfoKey, id> *)userInfo NS_DESIGNATED_INITIALIZER;
+                      userInfo:(nullable NSDictionary<NSErrorUserInfoKey, id>*)userInfo
+    NS_DESIGNATED_INITIALIZER;
 + (instancetype)errorWithDomain:(NSErrorDomain)domain
                            code:(NSInteger)code
-                       userInfo:(nullable NSDictionary<NSErrorUserInfoKey, id> *)userInfo;
+                       userInfo:(nullable NSDictionary<NSErrorUserInfoKey, id>*)userInfo;
 @property(readonly, copy) NSErrorDomain domain;
 @property(readonly) NSInteger code;
-@property(readonly, copy) NSDictionary<NSErrorUserInfoKey, id> *userInfo;
-@property(readonly, copy) NSString *localizedDescription;
-@property(nullable, readonly, copy) NSString *localizedFailureReason;
-@property(nullable, readonly, copy) NSString *localizedRecoverySuggestion;
+@property(readonly, copy) NSDictionary<NSErrorUserInfoKey, id>* userInfo;
+@property(readonly, copy) NSString* localizedDescription;
+@property(nullable, readonly, copy) NSString* localizedFailureReason;
+@property(nullable, readonly, copy) NSString* localizedRecoverySuggestion;
 @end
 
 __attribute__((__objc_exception__))
-@interface NSException : NSObject <NSCopying, NSSecureCoding>
+@interface NSException : NSObject<NSCopying, NSSecureCoding>
 @property(readonly, copy) NSExceptionName name;
-@property(nullable, readonly, copy) NSString *reason;
-@property(nullable, readonly, copy) NSDictionary *userInfo;
+@property(nullable, readonly, copy) NSString* reason;
+@property(nullable, readonly, copy) NSDictionary* userInfo;
 @end
 
 FOUNDATION_EXPORT NSExceptionName const NSInternalInconsistencyException;

@@ -8,8 +8,8 @@ NS_ASSUME_NONNULL_BEGIN
 typedef CGPoint NSPoint;
 typedef CGSize NSSize;
 typedef CGRect NSRect;
-typedef NSPoint *NSPointPointer;
-typedef NSRect *NSRectPointer;
+typedef NSPoint* NSPointPointer;
+typedef NSRect* NSRectPointer;
 typedef struct NSEdgeInsets {
     CGFloat top;
     CGFloat left;
@@ -20,7 +20,7 @@ typedef struct _NSRange {
     NSUInteger location;
     NSUInteger length;
 } NSRange;
-typedef NSRange *NSRangePointer;
+typedef NSRange* NSRangePointer;
 
 typedef NS_ENUM(NSUInteger, NSRectEdge) {
     NSRectEdgeMinX = 0,
@@ -67,7 +67,9 @@ NS_INLINE NSRange NSMakeRange(NSUInteger location, NSUInteger length) {
     return range;
 }
 NS_INLINE NSUInteger NSMaxRange(NSRange range) { return range.location + range.length; }
-NS_INLINE BOOL NSEqualRanges(NSRange a, NSRange b) { return a.location == b.location && a.length == b.length; }
+NS_INLINE BOOL NSEqualRanges(NSRange a, NSRange b) {
+    return a.location == b.location && a.length == b.length;
+}
 NS_INLINE CGFloat NSMaxX(NSRect rect) { return rect.origin.x + rect.size.width; }
 NS_INLINE CGFloat NSMaxY(NSRect rect) { return rect.origin.y + rect.size.height; }
 NS_INLINE CGFloat NSMidX(NSRect rect) { return rect.origin.x + rect.size.width / 2; }
@@ -91,9 +93,9 @@ FOUNDATION_EXPORT BOOL NSPointInRect(NSPoint point, NSRect rect);
 FOUNDATION_EXPORT BOOL NSMouseInRect(NSPoint point, NSRect rect, BOOL flipped);
 FOUNDATION_EXPORT BOOL NSContainsRect(NSRect a, NSRect b);
 FOUNDATION_EXPORT BOOL NSIntersectsRect(NSRect a, NSRect b);
-FOUNDATION_EXPORT NSString *NSStringFromPoint(NSPoint point);
-FOUNDATION_EXPORT NSString *NSStringFromSize(NSSize size);
-FOUNDATION_EXPORT NSString *NSStringFromRect(NSRect rect);
+FOUNDATION_EXPORT NSString* NSStringFromPoint(NSPoint point);
+FOUNDATION_EXPORT NSString* NSStringFromSize(NSSize size);
+FOUNDATION_EXPORT NSString* NSStringFromRect(NSRect rect);
 NS_INLINE NSRect NSRectFromCGRect(CGRect rect) { return rect; }
 NS_INLINE CGRect NSRectToCGRect(NSRect rect) { return rect; }
 

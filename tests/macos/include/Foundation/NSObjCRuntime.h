@@ -1,16 +1,17 @@
 // The macros and plain types of Objective-C and Foundation.
 #pragma once
+#include <TargetConditionals.h>
 #include <limits.h>
 #include <math.h>
+#include <os/availability.h>
 #include <stdarg.h>
 #include <stdbool.h>
 #include <stddef.h>
 #include <stdint.h>
-#include <TargetConditionals.h>
-#include <os/availability.h>
 #ifndef API_DEPRECATED
 #define STANDIN_DEPRECATED_macos(from, to) macos, introduced = from, deprecated = to
-#define API_DEPRECATED(text, platform) __attribute__((availability(STANDIN_DEPRECATED_##platform, message = text)))
+#define API_DEPRECATED(text, platform) \
+    __attribute__((availability(STANDIN_DEPRECATED_##platform, message = text)))
 #endif
 
 #ifdef __cplusplus
@@ -44,10 +45,10 @@
 #define NS_SWIFT_UI_ACTOR
 #define NS_INLINE static __inline__ __attribute__((always_inline))
 
-#define NS_ENUM(type, name)                                \
+#define NS_ENUM(type, name)                                          \
     enum __attribute__((enum_extensibility(open))) name : type name; \
     enum __attribute__((enum_extensibility(open))) name : type
-#define NS_CLOSED_ENUM(type, name)                                   \
+#define NS_CLOSED_ENUM(type, name)                                     \
     enum __attribute__((enum_extensibility(closed))) name : type name; \
     enum __attribute__((enum_extensibility(closed))) name : type
 // In C++ a set of options is a plain number, so that | needs no cast.
@@ -56,7 +57,7 @@
     type name;                 \
     enum __attribute__((flag_enum, enum_extensibility(open))) : name
 #else
-#define NS_OPTIONS(type, name)                                                   \
+#define NS_OPTIONS(type, name)                                                  \
     enum __attribute__((flag_enum, enum_extensibility(open))) name : type name; \
     enum __attribute__((flag_enum, enum_extensibility(open))) name : type
 #endif
@@ -69,8 +70,8 @@ typedef bool BOOL;
 #define nil nullptr
 #define Nil nullptr
 #else
-#define nil ((void *)0)
-#define Nil ((void *)0)
+#define nil ((void*)0)
+#define Nil ((void*)0)
 #endif
 typedef id _Nullable (*IMP)(id _Nonnull, SEL _Nonnull, ...);
 
@@ -104,8 +105,8 @@ typedef NS_OPTIONS(NSUInteger, NSSortOptions) { NSSortConcurrent = 1UL << 0, NSS
 #define MIN(a, b) ((a) < (b) ? (a) : (b))
 #define MAX(a, b) ((a) > (b) ? (a) : (b))
 
-FOUNDATION_EXPORT void NSLog(NSString *_Nonnull format, ...) NS_FORMAT_FUNCTION(1, 2);
-FOUNDATION_EXPORT NSString *_Nonnull NSStringFromSelector(SEL _Nonnull selector);
-FOUNDATION_EXPORT SEL _Nonnull NSSelectorFromString(NSString *_Nonnull name);
-FOUNDATION_EXPORT NSString *_Nonnull NSStringFromClass(Class _Nonnull aClass);
-FOUNDATION_EXPORT Class _Nullable NSClassFromString(NSString *_Nonnull name);
+FOUNDATION_EXPORT void NSLog(NSString* _Nonnull format, ...) NS_FORMAT_FUNCTION(1, 2);
+FOUNDATION_EXPORT NSString* _Nonnull NSStringFromSelector(SEL _Nonnull selector);
+FOUNDATION_EXPORT SEL _Nonnull NSSelectorFromString(NSString* _Nonnull name);
+FOUNDATION_EXPORT NSString* _Nonnull NSStringFromClass(Class _Nonnull aClass);
+FOUNDATION_EXPORT Class _Nullable NSClassFromString(NSString* _Nonnull name);

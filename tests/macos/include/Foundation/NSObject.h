@@ -18,28 +18,28 @@ NS_ASSUME_NONNULL_BEGIN
 - (BOOL)isProxy;
 - (BOOL)isKindOfClass:(Class)aClass;
 - (BOOL)isMemberOfClass:(Class)aClass;
-- (BOOL)conformsToProtocol:(Protocol *)protocol;
+- (BOOL)conformsToProtocol:(Protocol*)protocol;
 - (BOOL)respondsToSelector:(SEL)selector;
 - (instancetype)retain __attribute__((unavailable("not with ARC")));
 - (oneway void)release __attribute__((unavailable("not with ARC")));
 - (instancetype)autorelease __attribute__((unavailable("not with ARC")));
 - (NSUInteger)retainCount __attribute__((unavailable("not with ARC")));
-@property(readonly, copy) NSString *description;
+@property(readonly, copy) NSString* description;
 @optional
-@property(readonly, copy) NSString *debugDescription;
+@property(readonly, copy) NSString* debugDescription;
 @end
 
 @protocol NSCopying
-- (id)copyWithZone:(nullable NSZone *)zone;
+- (id)copyWithZone:(nullable NSZone*)zone;
 @end
 
 @protocol NSMutableCopying
-- (id)mutableCopyWithZone:(nullable NSZone *)zone;
+- (id)mutableCopyWithZone:(nullable NSZone*)zone;
 @end
 
 @protocol NSCoding
-- (void)encodeWithCoder:(NSCoder *)coder;
-- (nullable instancetype)initWithCoder:(NSCoder *)coder;
+- (void)encodeWithCoder:(NSCoder*)coder;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder;
 @end
 
 @protocol NSSecureCoding <NSCoding>
@@ -55,29 +55,31 @@ NS_ROOT_CLASS
 + (void)initialize;
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
 + (instancetype)new;
-+ (instancetype)allocWithZone:(nullable struct _NSZone *)zone;
++ (instancetype)allocWithZone:(nullable struct _NSZone*)zone;
 + (instancetype)alloc;
 - (void)dealloc;
 - (id)copy;
 - (id)mutableCopy;
 + (BOOL)instancesRespondToSelector:(SEL)selector;
-+ (BOOL)conformsToProtocol:(Protocol *)protocol;
++ (BOOL)conformsToProtocol:(Protocol*)protocol;
 - (IMP)methodForSelector:(SEL)selector;
 - (void)doesNotRecognizeSelector:(SEL)selector;
 + (BOOL)isSubclassOfClass:(Class)aClass;
 + (NSUInteger)hash;
 + (Class)superclass;
 + (Class)class;
-+ (NSString *)description;
++ (NSString*)description;
 @end
 
 @interface NSObject (NSDelayedPerforming)
 - (void)performSelector:(SEL)selector
              withObject:(nullable id)argument
              afterDelay:(NSTimeInterval)delay
-                inModes:(NSArray<NSString *> *)modes;
+                inModes:(NSArray<NSString*>*)modes;
 - (void)performSelector:(SEL)selector withObject:(nullable id)argument afterDelay:(NSTimeInterval)delay;
-+ (void)cancelPreviousPerformRequestsWithTarget:(id)target selector:(SEL)selector object:(nullable id)argument;
++ (void)cancelPreviousPerformRequestsWithTarget:(id)target
+                                       selector:(SEL)selector
+                                         object:(nullable id)argument;
 + (void)cancelPreviousPerformRequestsWithTarget:(id)target;
 @end
 
@@ -86,10 +88,10 @@ NS_ROOT_CLASS
 - (void)performSelectorOnMainThread:(SEL)selector
                          withObject:(nullable id)argument
                       waitUntilDone:(BOOL)wait
-                              modes:(nullable NSArray<NSString *> *)modes;
+                              modes:(nullable NSArray<NSString*>*)modes;
 @end
 
-typedef NSString *NSKeyValueChangeKey NS_STRING_ENUM;
+typedef NSString* NSKeyValueChangeKey NS_STRING_ENUM;
 typedef NS_OPTIONS(NSUInteger, NSKeyValueObservingOptions) {
     NSKeyValueObservingOptionNew = 0x01,
     NSKeyValueObservingOptionOld = 0x02,
@@ -100,24 +102,26 @@ FOUNDATION_EXPORT NSKeyValueChangeKey const NSKeyValueChangeNewKey;
 FOUNDATION_EXPORT NSKeyValueChangeKey const NSKeyValueChangeOldKey;
 
 @interface NSObject (NSKeyValueObserving)
-- (void)observeValueForKeyPath:(nullable NSString *)keyPath
+- (void)observeValueForKeyPath:(nullable NSString*)keyPath
                       ofObject:(nullable id)object
-                        change:(nullable NSDictionary<NSKeyValueChangeKey, id> *)change
-                       context:(nullable void *)context;
-- (void)addObserver:(NSObject *)observer
-         forKeyPath:(NSString *)keyPath
+                        change:(nullable NSDictionary<NSKeyValueChangeKey, id>*)change
+                       context:(nullable void*)context;
+- (void)addObserver:(NSObject*)observer
+         forKeyPath:(NSString*)keyPath
             options:(NSKeyValueObservingOptions)options
-            context:(nullable void *)context;
-- (void)removeObserver:(NSObject *)observer forKeyPath:(NSString *)keyPath context:(nullable void *)context;
-- (void)removeObserver:(NSObject *)observer forKeyPath:(NSString *)keyPath;
+            context:(nullable void*)context;
+- (void)removeObserver:(NSObject*)observer forKeyPath:(NSString*)keyPath context:(nullable void*)context;
+- (void)removeObserver:(NSObject*)observer forKeyPath:(NSString*)keyPath;
 @end
 
 @interface NSObject (NSKeyValueCoding)
-- (nullable id)valueForKey:(NSString *)key;
-- (void)setValue:(nullable id)value forKey:(NSString *)key;
+- (nullable id)valueForKey:(NSString*)key;
+- (void)setValue:(nullable id)value forKey:(NSString*)key;
 @end
 
-NS_INLINE CFTypeRef _Nullable CFBridgingRetain(id _Nullable object) { return (__bridge_retained CFTypeRef)object; }
+NS_INLINE CFTypeRef _Nullable CFBridgingRetain(id _Nullable object) {
+    return (__bridge_retained CFTypeRef)object;
+}
 NS_INLINE id _Nullable CFBridgingRelease(__attribute__((cf_consumed)) CFTypeRef _Nullable object) {
     return (__bridge_transfer id)object;
 }

@@ -13,14 +13,14 @@ NS_ASSUME_NONNULL_BEGIN
 @end
 
 @interface NSOperationQueue : NSObject
-- (void)addOperation:(NSOperation *)operation;
+- (void)addOperation:(NSOperation*)operation;
 - (void)addOperationWithBlock:(void (^)(void))block;
 @property NSInteger maxConcurrentOperationCount;
 @property(getter=isSuspended) BOOL suspended;
 - (void)cancelAllOperations;
 - (void)waitUntilAllOperationsAreFinished;
-@property(class, readonly, strong, nullable) NSOperationQueue *currentQueue;
-@property(class, readonly, strong) NSOperationQueue *mainQueue;
+@property(class, readonly, strong, nullable) NSOperationQueue* currentQueue;
+@property(class, readonly, strong) NSOperationQueue* mainQueue;
 @end
 
 NS_ASSUME_NONNULL_END

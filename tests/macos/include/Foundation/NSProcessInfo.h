@@ -16,27 +16,28 @@ typedef NS_OPTIONS(uint64_t, NSActivityOptions) {
     NSActivitySuddenTerminationDisabled = (1ULL << 14),
     NSActivityAutomaticTerminationDisabled = (1ULL << 15),
     NSActivityUserInitiated = (0x00FFFFFFULL | NSActivityIdleSystemSleepDisabled),
-    NSActivityUserInitiatedAllowingIdleSystemSleep = (NSActivityUserInitiated & ~NSActivityIdleSystemSleepDisabled),
+    NSActivityUserInitiatedAllowingIdleSystemSleep = (NSActivityUserInitiated &
+                                                      ~NSActivityIdleSystemSleepDisabled),
     NSActivityBackground = 0x000000FFULL,
     NSActivityLatencyCritical = 0xFF00000000ULL,
 };
 
 @interface NSProcessInfo : NSObject
-@property(class, readonly, strong) NSProcessInfo *processInfo;
-@property(readonly, copy) NSDictionary<NSString *, NSString *> *environment;
-@property(readonly, copy) NSArray<NSString *> *arguments;
-@property(copy) NSString *processName;
+@property(class, readonly, strong) NSProcessInfo* processInfo;
+@property(readonly, copy) NSDictionary<NSString*, NSString*>* environment;
+@property(readonly, copy) NSArray<NSString*>* arguments;
+@property(copy) NSString* processName;
 @property(readonly) int processIdentifier;
-@property(readonly, copy) NSString *operatingSystemVersionString;
+@property(readonly, copy) NSString* operatingSystemVersionString;
 @property(readonly) NSOperatingSystemVersion operatingSystemVersion;
 - (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version;
 @property(readonly) NSTimeInterval systemUptime;
 - (void)disableSuddenTermination;
 - (void)enableSuddenTermination;
-- (void)disableAutomaticTermination:(NSString *)reason;
-- (void)enableAutomaticTermination:(NSString *)reason;
+- (void)disableAutomaticTermination:(NSString*)reason;
+- (void)enableAutomaticTermination:(NSString*)reason;
 @property BOOL automaticTerminationSupportEnabled;
-- (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString *)reason;
+- (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString*)reason;
 - (void)endActivity:(id<NSObject>)activity;
 @end
 

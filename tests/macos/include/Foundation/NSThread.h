@@ -5,11 +5,11 @@
 NS_ASSUME_NONNULL_BEGIN
 
 @interface NSThread : NSObject
-@property(class, readonly, strong) NSThread *currentThread;
-@property(class, readonly, strong) NSThread *mainThread;
+@property(class, readonly, strong) NSThread* currentThread;
+@property(class, readonly, strong) NSThread* mainThread;
 @property(class, readonly) BOOL isMainThread;
 @property(readonly) BOOL isMainThread;
-@property(nullable, copy) NSString *name;
+@property(nullable, copy) NSString* name;
 @property NSQualityOfService qualityOfService;
 + (void)detachNewThreadWithBlock:(void (^)(void))block;
 + (void)sleepForTimeInterval:(NSTimeInterval)interval;

@@ -4,7 +4,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-typedef NSString *CAMediaTimingFunctionName NS_TYPED_ENUM;
+typedef NSString* CAMediaTimingFunctionName NS_TYPED_ENUM;
 FOUNDATION_EXPORT CAMediaTimingFunctionName const kCAMediaTimingFunctionLinear;
 FOUNDATION_EXPORT CAMediaTimingFunctionName const kCAMediaTimingFunctionEaseIn;
 FOUNDATION_EXPORT CAMediaTimingFunctionName const kCAMediaTimingFunctionEaseOut;
@@ -28,8 +28,8 @@ FOUNDATION_EXPORT CAMediaTimingFunctionName const kCAMediaTimingFunctionEaseInEa
 @property BOOL masksToBounds;
 @property(getter=isHidden) BOOL hidden;
 @property CGFloat contentsScale;
-@property(nullable, readonly) CALayer *superlayer;
-- (void)addSublayer:(CALayer *)layer;
+@property(nullable, readonly) CALayer* superlayer;
+- (void)addSublayer:(CALayer*)layer;
 - (void)removeFromSuperlayer;
 - (void)setNeedsDisplay;
 @end

@@ -13,15 +13,15 @@ typedef NS_ENUM(NSInteger, SMAppServiceStatus) {
 
 API_AVAILABLE(macos(13.0))
 @interface SMAppService : NSObject
-+ (instancetype)loginItemServiceWithIdentifier:(NSString *)identifier;
-@property(class, readonly) SMAppService *mainAppService;
-+ (instancetype)agentServiceWithPlistName:(NSString *)plistName;
-+ (instancetype)daemonServiceWithPlistName:(NSString *)plistName;
-- (BOOL)registerAndReturnError:(NSError *_Nullable *_Nullable)error;
-- (BOOL)unregisterAndReturnError:(NSError *_Nullable *_Nullable)error;
-- (void)unregisterWithCompletionHandler:(void (^)(NSError *_Nullable error))handler;
++ (instancetype)loginItemServiceWithIdentifier:(NSString*)identifier;
+@property(class, readonly) SMAppService* mainAppService;
++ (instancetype)agentServiceWithPlistName:(NSString*)plistName;
++ (instancetype)daemonServiceWithPlistName:(NSString*)plistName;
+- (BOOL)registerAndReturnError:(NSError* _Nullable* _Nullable)error;
+- (BOOL)unregisterAndReturnError:(NSError* _Nullable* _Nullable)error;
+- (void)unregisterWithCompletionHandler:(void (^)(NSError* _Nullable error))handler;
 @property(readonly) SMAppServiceStatus status;
-+ (SMAppServiceStatus)statusForLegacyURL:(NSURL *)url;
++ (SMAppServiceStatus)statusForLegacyURL:(NSURL*)url;
 + (void)openSystemSettingsLoginItems;
 @end
 

@@ -1,5 +1,6 @@
 // Stand-in for <dispatch/dispatch.h>: queues, time, once, semaphores and timers.
 #pragma once
+#include <pthread/qos.h>
 #include <stdbool.h>
 #include <stddef.h>
 #include <stdint.h>
@@ -11,14 +12,14 @@ extern "C" {
 
 // In Objective-C these are objects that ARC counts.
 #ifdef __OBJC__
-#define STANDIN_DISPATCH_DECL(name)  \
-    @protocol OS_##name              \
-    @end                             \
+#define STANDIN_DISPATCH_DECL(name) \
+    @protocol OS_                   \
+    ##name @end                     \
     typedef id<OS_##name> name##_t
-#define STANDIN_DISPATCH_GLOBAL(type, object) ((__bridge type)(void *)&(object))
+#define STANDIN_DISPATCH_GLOBAL(type, object) ((__bridge type)(void*)&(object))
 #else
-#define STANDIN_DISPATCH_DECL(name) typedef struct name##_s *name##_t
-#define STANDIN_DISPATCH_GLOBAL(type, object) ((type)(void *)&(object))
+#define STANDIN_DISPATCH_DECL(name) typedef struct name##_s* name##_t
+#define STANDIN_DISPATCH_GLOBAL(type, object) ((type)(void*)&(object))
 #endif
 
 STANDIN_DISPATCH_DECL(dispatch_queue);
@@ -30,7 +31,7 @@ STANDIN_DISPATCH_DECL(dispatch_queue_attr);
 #ifdef __BLOCKS__
 typedef void (^dispatch_block_t)(void);
 #endif
-typedef void (*dispatch_function_t)(void *_Nullable);
+typedef void (*dispatch_function_t)(void* _Nullable);
 typedef uint64_t dispatch_time_t;
 typedef long dispatch_once_t;
 typedef unsigned int dispatch_qos_class_t;
@@ -49,40 +50,33 @@ static inline __attribute__((always_inline)) dispatch_queue_t dispatch_get_main_
 }
 #define DISPATCH_QUEUE_SERIAL NULL
 
-enum {
-    QOS_CLASS_USER_INTERACTIVE = 0x21,
-    QOS_CLASS_USER_INITIATED = 0x19,
-    QOS_CLASS_DEFAULT = 0x15,
-    QOS_CLASS_UTILITY = 0x11,
-    QOS_CLASS_BACKGROUND = 0x09,
-};
-
 dispatch_queue_t dispatch_get_global_queue(intptr_t identifier, uintptr_t flags);
-__attribute__((ns_returns_retained)) dispatch_queue_t dispatch_queue_create(const char *_Nullable label,
-                                                                            dispatch_queue_attr_t _Nullable attr);
-void dispatch_async_f(dispatch_queue_t queue, void *_Nullable context, dispatch_function_t work);
-void dispatch_sync_f(dispatch_queue_t queue, void *_Nullable context, dispatch_function_t work);
-void dispatch_after_f(dispatch_time_t when, dispatch_queue_t queue, void *_Nullable context, dispatch_function_t work);
+__attribute__((ns_returns_retained)) dispatch_queue_t dispatch_queue_create(
+    const char* _Nullable label, dispatch_queue_attr_t _Nullable attr);
+void dispatch_async_f(dispatch_queue_t queue, void* _Nullable context, dispatch_function_t work);
+void dispatch_sync_f(dispatch_queue_t queue, void* _Nullable context, dispatch_function_t work);
+void dispatch_after_f(dispatch_time_t when, dispatch_queue_t queue, void* _Nullable context,
+                      dispatch_function_t work);
 #ifdef __BLOCKS__
 void dispatch_async(dispatch_queue_t queue, dispatch_block_t block);
 void dispatch_sync(dispatch_queue_t queue, __attribute__((noescape)) dispatch_block_t block);
 void dispatch_after(dispatch_time_t when, dispatch_queue_t queue, dispatch_block_t block);
-void dispatch_once(dispatch_once_t *predicate, __attribute__((noescape)) dispatch_block_t block);
+void dispatch_once(dispatch_once_t* predicate, __attribute__((noescape)) dispatch_block_t block);
 #endif
 dispatch_time_t dispatch_time(dispatch_time_t when, int64_t delta);
-dispatch_time_t dispatch_walltime(const struct timespec *_Nullable when, int64_t delta);
+dispatch_time_t dispatch_walltime(const struct timespec* _Nullable when, int64_t delta);
 
 __attribute__((ns_returns_retained)) dispatch_semaphore_t dispatch_semaphore_create(intptr_t value);
 intptr_t dispatch_semaphore_signal(dispatch_semaphore_t semaphore);
 intptr_t dispatch_semaphore_wait(dispatch_semaphore_t semaphore, dispatch_time_t timeout);
 
-typedef const struct dispatch_source_type_s *dispatch_source_type_t;
+typedef const struct dispatch_source_type_s* dispatch_source_type_t;
 extern const struct dispatch_source_type_s _dispatch_source_type_timer;
 #define DISPATCH_SOURCE_TYPE_TIMER (&_dispatch_source_type_timer)
-__attribute__((ns_returns_retained)) dispatch_source_t dispatch_source_create(dispatch_source_type_t type, uintptr_t handle,
-                                                                              uintptr_t mask,
-                                                                              dispatch_queue_t _Nullable queue);
-void dispatch_source_set_timer(dispatch_source_t source, dispatch_time_t start, uint64_t interval, uint64_t leeway);
+__attribute__((ns_returns_retained)) dispatch_source_t dispatch_source_create(
+    dispatch_source_type_t type, uintptr_t handle, uintptr_t mask, dispatch_queue_t _Nullable queue);
+void dispatch_source_set_timer(dispatch_source_t source, dispatch_time_t start, uint64_t interval,
+                               uint64_t leeway);
 void dispatch_source_set_event_handler_f(dispatch_source_t source, dispatch_function_t _Nullable handler);
 #ifdef __BLOCKS__
 void dispatch_source_set_event_handler(dispatch_source_t source, dispatch_block_t _Nullable handler);

@@ -19,5 +19,10 @@ int pthread_set_qos_class_self_np(qos_class_t qos_class, int relative_priority);
 CF_EXTERN_C_END
 
 // The platform's <pthread.h> declares this one; other systems' function of the same
-// name takes the thread too, so here it is an overload.
+// name takes the thread too, so here it is an overload. For the Mac it has to be linked
+// by its real name.
+#ifdef __APPLE__
+int pthread_setname_np(const char* name) __asm__("_pthread_setname_np");
+#else
 int pthread_setname_np(const char* name);
+#endif
