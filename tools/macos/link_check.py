@@ -24,7 +24,9 @@ def build(source, folder, allowed, extra=()):
     """(passes, what CMake printed)"""
     configure = ["cmake", "-G", "Ninja", "-S", str(source), "-B", str(folder),
                  "--toolchain", str(compiler.ROOT / "tools/macos/toolchain.cmake"),
-                 f"-DVANTREL_ALLOWED_SYMBOLS={allowed}", "-DVANTREL_TESTS=OFF", *extra]
+                 f"-DVANTREL_ALLOWED_SYMBOLS={allowed}", "-DVANTREL_TESTS=OFF",
+                 # The headers once for many sources: a third of the time.
+                 "-DCMAKE_UNITY_BUILD=ON", "-DCMAKE_UNITY_BUILD_BATCH_SIZE=16", *extra]
     passes, output = runner.run(configure)
     if not passes:
         return passes, output

@@ -41,8 +41,8 @@ class AppKitView : public ui::View, private layout::Canvas {
 
     FlippedView* _Nonnull view_;
     layout::BoxRenderer renderer_;
-    id<NSObject> _Nonnull colorsObserver_;
     Lifeline lifeline_;
+    id<NSObject> _Nonnull colorsObserver_;
 };
 
 }  // namespace vantrel::appkit

@@ -33,20 +33,23 @@ void collect(const layout::Box& box, std::vector<NSView*>& all) {
     orderSubviews(controlOf(box).childrenView(), children);
 }
 
+id<NSObject> whenColorsChange(std::function<void()> action) {
+    return [NSNotificationCenter.defaultCenter addObserverForName:NSSystemColorsDidChangeNotification
+                                                           object:nil
+                                                            queue:NSOperationQueue.mainQueue
+                                                       usingBlock:^(NSNotification*) {
+                                                         action();
+                                                       }];
+}
+
 }  // namespace
 
 AppKitView::AppKitView()
-    : view_([[FlippedView alloc] initWithFrame:NSZeroRect]), renderer_(static_cast<layout::Canvas&>(*this)) {
+    : view_([[FlippedView alloc] initWithFrame:NSZeroRect]),
+      renderer_(static_cast<layout::Canvas&>(*this)),
+      // Of another accent, say. What draws itself has to be told.
+      colorsObserver_(whenColorsChange(lifeline_.guard([this] { renderer_.refresh(); }))) {
     [view_ onResize:[this] { renderer_.layOut(); }];
-    const std::function<void()> refresh = lifeline_.guard([this] { renderer_.refresh(); });
-    // Of another accent, say. What draws itself has to be told.
-    colorsObserver_ =
-        [NSNotificationCenter.defaultCenter addObserverForName:NSSystemColorsDidChangeNotification
-                                                        object:nil
-                                                         queue:NSOperationQueue.mainQueue
-                                                    usingBlock:^(NSNotification*) {
-                                                      refresh();
-                                                    }];
 }
 
 AppKitView::~AppKitView() {
