@@ -1,9 +1,8 @@
 #include "platform/macos/MacWorkspace.h"
 
+#import <AppKit/AppKit.h>
 #include <utility>
 #include <vector>
-
-#import <AppKit/AppKit.h>
 
 namespace vantrel::macos {
 
@@ -22,13 +21,13 @@ MacWorkspace::~MacWorkspace() {
 
 void MacWorkspace::onWake(std::function<void()> callback) {
     const std::weak_ptr<int> existence = observers_->existence;
-    id<NSObject> token = [NSWorkspace.sharedWorkspace.notificationCenter
-        addObserverForName:NSWorkspaceDidWakeNotification
-                    object:nil
-                     queue:NSOperationQueue.mainQueue
-                usingBlock:^(NSNotification*) {
-                  if (!existence.expired()) callback();
-                }];
+    id<NSObject> token =
+        [NSWorkspace.sharedWorkspace.notificationCenter addObserverForName:NSWorkspaceDidWakeNotification
+                                                                    object:nil
+                                                                     queue:NSOperationQueue.mainQueue
+                                                                usingBlock:^(NSNotification*) {
+                                                                  if (!existence.expired()) callback();
+                                                                }];
     observers_->tokens.push_back(token);
 }
 

@@ -14,7 +14,6 @@ FOUNDATION_EXPORT CAMediaTimingFunctionName const kCAMediaTimingFunctionEaseInEa
 + (instancetype)functionWithName:(CAMediaTimingFunctionName)name;
 @end
 
-
 @interface CALayer : NSObject <NSSecureCoding>
 + (instancetype)layer;
 @property CGRect bounds;
