@@ -6,37 +6,14 @@
 #include "ddc/Probe.h"
 #include "macos/MacBench.h"
 #include "platform/simulated/ShippedDesks.h"
-#include "simulated/DeskBench.h"
 #include "support/RecordingLogSink.h"
+#include "support/SeamBenches.h"
 #include "support/SeamContract.h"
 
 namespace vantrel {
 namespace {
 
-struct OrdinaryMac {
-    platform::Platform& platform() { return bench.platform; }
-    macos::MacBench bench{simulated::ordinaryDesk()};
-};
-
-struct EmptyMac {
-    platform::Platform& platform() { return bench.platform; }
-    macos::MacBench bench{simulated::Desk{}};
-};
-
-struct ReducedMac {
-    static simulated::Desk desk() {
-        simulated::Desk desk = simulated::ordinaryDesk();
-        for (simulated::DisplayPlan& plan : desk.displays) plan.transferTableCapacity = 0;
-        desk.missingSymbols = {"IOAVServiceCreateWithService", "CGSConfigureDisplayEnabled",
-                               "DisplayServicesGetBrightness"};
-        return desk;
-    }
-    platform::Platform& platform() { return bench.platform; }
-    macos::MacBench bench{desk()};
-};
-
-using Benches = testing::Types<OrdinaryMac, EmptyMac, ReducedMac>;
-INSTANTIATE_TYPED_TEST_SUITE_P(MacPlatform, SeamContract, Benches);
+INSTANTIATE_TYPED_TEST_SUITE_P(MacPlatform, SeamContract, SeamBenches<macos::MacBench>);
 
 }  // namespace
 

@@ -3,35 +3,13 @@
 
 #include "platform/simulated/SimulatedPlatform.h"
 #include "simulated/DeskBench.h"
+#include "support/SeamBenches.h"
 #include "support/SeamContract.h"
 
 namespace vantrel {
 namespace {
 
-struct OrdinaryBench {
-    platform::Platform& platform() { return bench.platform; }
-    simulated::DeskBench bench;
-};
-
-struct EmptyBench {
-    platform::Platform& platform() { return bench.platform; }
-    simulated::DeskBench bench{simulated::Desk{}};
-};
-
-struct ReducedBench {
-    static simulated::Desk desk() {
-        simulated::Desk desk = simulated::ordinaryDesk();
-        for (simulated::DisplayPlan& plan : desk.displays) plan.transferTableCapacity = 0;
-        desk.missingSymbols = {"IOAVServiceCreateWithService", "CGSConfigureDisplayEnabled",
-                               "DisplayServicesGetBrightness"};
-        return desk;
-    }
-    platform::Platform& platform() { return bench.platform; }
-    simulated::DeskBench bench{desk()};
-};
-
-using Benches = testing::Types<OrdinaryBench, EmptyBench, ReducedBench>;
-INSTANTIATE_TYPED_TEST_SUITE_P(SimulatedPlatform, SeamContract, Benches);
+INSTANTIATE_TYPED_TEST_SUITE_P(SimulatedPlatform, SeamContract, SeamBenches<simulated::DeskBench>);
 
 }  // namespace
 
