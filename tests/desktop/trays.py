@@ -28,7 +28,10 @@ class EmbeddingTray:
                       "--height", "28")
 
     def icon(self, program):
-        return wait_for_rest("the icon in the tray", program.embedded_icon)
+        return wait_for_rest("the icon in the tray", lambda: self.place(program))
+
+    def place(self, program):
+        return program.embedded_icon()
 
 
 class NotifierTray:
@@ -43,7 +46,7 @@ class NotifierTray:
         wait_for("the panel", lambda: desktop.accessibility.elements("lxqt-panel"))
 
     def icon(self, program):
-        return wait_for_rest("the icon in the panel", self._button)
+        return wait_for_rest("the icon in the panel", lambda: self.place(program))
 
-    def _button(self):
+    def place(self, _program):
         return self._desktop.accessibility.places("lxqt-panel").get(("push button", ""))
