@@ -60,7 +60,7 @@ class OtherTimer {
         CFRunLoopTimerContext context{};
         context.info = this;
         timer_ = CFHandle(CFRunLoopTimerCreate(
-            kCFAllocatorDefault, CFAbsoluteTimeGetCurrent() + wait, 0, 0, 0,
+            kCFAllocatorDefault, fake::FakeMac::current().runLoop().now() + wait, 0, 0, 0,
             [](CFRunLoopTimerRef, void* self) { static_cast<OtherTimer*>(self)->work_(); }, &context));
         CFRunLoopAddTimer(CFRunLoopGetMain(), timer_.get(), kCFRunLoopCommonModes);
     }
