@@ -16,6 +16,16 @@ TEST_F(CFPropertyTest, ReadsTextsAndIntegers) {
     EXPECT_EQ(CFProperty::value(integerOf(-5).get()), PropertyValue(std::int64_t(-5)));
 }
 
+TEST_F(CFPropertyTest, ReadsIntegersOfAnyLength) {
+    for (const std::int64_t number : {0x7FFFFFFFLL, 0x80000000LL, 0xFFFFFFFFLL, 0x123456789ALL}) {
+        EXPECT_EQ(CFProperty::value(integerOf(number).get()), PropertyValue(number));
+    }
+}
+
+TEST_F(CFPropertyTest, ReadsAnEmptyDictionaryAsOne) {
+    EXPECT_EQ(CFProperty::value(dictionaryOf({}).get()), PropertyValue(PropertyDictionary()));
+}
+
 TEST_F(CFPropertyTest, ReadsOtherTypesAsMonostate) {
     const PropertyValue nothing;
     EXPECT_EQ(CFProperty::value(kCFBooleanTrue), nothing);

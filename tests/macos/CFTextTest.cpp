@@ -24,6 +24,13 @@ TEST_F(CFTextTest, KeepsCharactersOfEveryLengthAndTheNULAmongThem) {
     EXPECT_EQ(CFStringGetLength(CFText::make("a€\xF0\x9F\x96\xA5").get()), 4);
 }
 
+TEST_F(CFTextTest, KeepsTheFirstAndTheLastCharacterOfEveryLength) {
+    for (const char* character : {"\x7F", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xED\x9F\xBF",
+                                  "\xEE\x80\x80", "\xEF\xBF\xBF", "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"}) {
+        EXPECT_EQ(through(character), character);
+    }
+}
+
 TEST_F(CFTextTest, RepairsWhatIsNoUTF8) { EXPECT_EQ(through("a\xFF\xC3"), "a\xEF\xBF\xBD\xEF\xBF\xBD"); }
 
 TEST_F(CFTextTest, ReplacesHalfASurrogatePair) {
@@ -31,6 +38,12 @@ TEST_F(CFTextTest, ReplacesHalfASurrogatePair) {
     EXPECT_EQ(CFText::read(textOf(u"a\xD83D").get()), "a" + replaced);
     EXPECT_EQ(CFText::read(textOf(u"\xDDA5z").get()), replaced + "z");
     EXPECT_EQ(CFText::read(textOf(u"\xD83D\xD83D\xDDA5").get()), replaced + "\xF0\x9F\x96\xA5");
+}
+
+TEST_F(CFTextTest, ReplacesTheFirstAndTheLastOfTheHalves) {
+    for (const char16_t half : {u'\xD800', u'\xDBFF', u'\xDC00', u'\xDFFF'}) {
+        EXPECT_EQ(CFText::read(textOf(std::u16string(1, half)).get()), "\xEF\xBF\xBD");
+    }
 }
 
 TEST_F(CFTextTest, IsNullWhenTheSystemMakesNone) {

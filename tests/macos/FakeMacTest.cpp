@@ -1,4 +1,5 @@
 // The fake must see what it is there to see.
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include "macos/CFBench.h"
@@ -62,6 +63,18 @@ TEST_F(FakeMacDeathTest, StopsForAUseAfterTheLastRelease) {
 
 TEST_F(FakeMacDeathTest, StopsForAnObjectOfTheRegistryThatNobodyHolds) {
     EXPECT_DEATH(IOObjectRelease(7), "nobody holds");
+}
+
+TEST_F(FakeMacDeathTest, StopsForALibraryThatSomebodyElseWouldHaveToOpen) {
+    EXPECT_DEATH(dlopen("/System/Library/Frameworks/IOKit.framework/IOKit", RTLD_LAZY | RTLD_NOLOAD),
+                 "in a mode that nobody here needs");
+}
+
+TEST_F(FakeMacDeathTest, StopsForAChangeThatLastsLongerThanTheSession) {
+    const auto configuration = bench.platform.displays.beginConfiguration();
+    EXPECT_DEATH(bench.platform.displays.completeConfiguration(*configuration, kCGConfigurePermanently),
+                 "stays for ever");
+    bench.platform.displays.cancelConfiguration(*configuration);
 }
 
 TEST_F(FakeMacDeathTest, StopsForNullAndForAnotherType) {

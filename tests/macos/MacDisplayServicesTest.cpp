@@ -64,6 +64,20 @@ TEST_F(MacDisplayServicesTest, ReadsNoMoreSamplesThanItAskedFor) {
     EXPECT_EQ(displays().transferTable(2, 10), std::nullopt);
 }
 
+TEST_F(MacDisplayServicesTest, ReadsNoMoreSamplesThanThereAre) {
+    const auto table = displays().transferTable(2, 1000);
+    ASSERT_TRUE(table);
+    EXPECT_EQ(table, bench.fake.desk().displays.transferTable(2, 1000));
+    EXPECT_EQ(table->red.size(), 256);
+}
+
+TEST_F(MacDisplayServicesTest, KeepsTheChannelsApart) {
+    const platform::TransferTable warm{{0, 1}, {0, 0.5F}, {0, 0.25F}};
+    displays().setTransferTable(2, warm);
+    EXPECT_EQ(bench.fake.desk().displays.transferTable(2, 256), warm);
+    EXPECT_EQ(displays().transferTable(2, 256), warm);
+}
+
 TEST_F(MacDisplayServicesTest, IgnoresATableWhoseChannelsDifferInLength) {
     const auto before = displays().transferTable(2, 256);
     displays().setTransferTable(2, {{0, 1}, {0, 1}, {0}});
@@ -75,6 +89,15 @@ TEST_F(MacDisplayServicesTest, IgnoresATableWhoseChannelsDifferInLength) {
 TEST_F(MacDisplayServicesTest, BeginsNoConfigurationThatTheSystemRefuses) {
     bench.computer.refuse(simulated::Refusal::begin);
     EXPECT_FALSE(displays().beginConfiguration());
+}
+
+TEST_F(MacDisplayServicesTest, ChangesNothingByACancelledConfiguration) {
+    const auto configuration = displays().beginConfiguration();
+    ASSERT_TRUE(configuration);
+    EXPECT_EQ(bench.platform.functions.configureEnabled()(*configuration, 2, false), 0);
+    displays().cancelConfiguration(*configuration);
+    bench.loop.runFor(10s);
+    EXPECT_TRUE(bench.computer.world().isOnline(2));
 }
 
 TEST_F(MacDisplayServicesTest, SaysThatAConfigurationWasNotTaken) {
@@ -95,6 +118,19 @@ TEST_F(MacDisplayServicesTest, TellsEveryPhaseOfAReconfigurationToEveryListener)
     bench.loop.runFor(1s);
     EXPECT_EQ(heard, (Calls{{3, begins}, {3, begins}, {3, added}, {3, added}}));
     EXPECT_EQ(bench.fake.calls().count("CGDisplayRegisterReconfigurationCallback"), 1);
+}
+
+TEST_F(MacDisplayServicesTest, TellsAListenerThatAnotherHasRegisteredMeanwhile) {
+    int calls = 0;
+    // The callbacks move elsewhere meanwhile, and what this one holds with them.
+    displays().onReconfiguration([this, &calls](platform::DisplayID, std::uint32_t) {
+        for (int listener = 0; listener < 10; ++listener) listen();
+        ++calls;
+    });
+    bench.fake.announce(2, added);
+    bench.loop.runFor(1s);
+    EXPECT_EQ(heard, Calls(10, {2, added}));
+    EXPECT_EQ(calls, 1);
 }
 
 TEST_F(MacDisplayServicesTest, TellsNobodyBeforeTheMainLoopRuns) {

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
+#include <string>
 
 #include "macos/CFBench.h"
+#include "runtime/RealScheduler.h"
 
 namespace vantrel::macos {
 namespace {
@@ -53,6 +55,22 @@ TEST_F(MacLogTest, TakesLinesFromSeveralThreads) {
     bench.scheduler.finishThreads();
     EXPECT_EQ(bench.fake.logged().size(), 20);
     EXPECT_EQ(bench.fake.logsMade(), 2);
+}
+
+TEST_F(MacLogTest, AsksForALogOnceWhenThreadsWriteAtTheSameTime) {
+    constexpr int threads = 4;
+    constexpr std::size_t categories = 500;
+    runtime::RealScheduler real;
+    for (int thread = 0; thread < threads; ++thread) {
+        real.startThread("writer", runtime::QualityOfService::userInitiated, [this] {
+            for (std::size_t category = 0; category < categories; ++category) {
+                log.write(std::to_string(category), LogLevel::info, "line");
+            }
+        });
+    }
+    real.finishThreads();
+    EXPECT_EQ(bench.fake.logged().size(), threads * categories);
+    EXPECT_EQ(bench.fake.logsMade(), categories);
 }
 
 }  // namespace

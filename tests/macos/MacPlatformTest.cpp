@@ -54,6 +54,16 @@ Probed probeMac(simulated::Desk desk) {
     return {output.str(), log.lines(), bench.time.now()};
 }
 
+TEST(MacPlatform, HasTheSettingsThatItIsGiven) {
+    MacBench bench;
+    test::RecordingLogSink log;
+    platform::Defaults& others = bench.fake.desk().defaults;
+    others.set("number", std::int64_t(17));
+    EXPECT_EQ(bench.mac.platform(log, others).defaults.value("number"),
+              platform::DefaultsValue(std::int64_t(17)));
+    EXPECT_EQ(bench.mac.platform(log).defaults.value("number"), std::nullopt);
+}
+
 class MacPlatformProbe : public testing::TestWithParam<std::string> {};
 
 TEST_P(MacPlatformProbe, PrintsLogsAndTakesWhatItDoesOnTheSimulatedPlatform) {

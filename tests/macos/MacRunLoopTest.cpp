@@ -18,6 +18,8 @@ constexpr CFTimeInterval forEver = 1e10;
 
 CFRunLoopRunResult runIn(CFRunLoopMode mode) { return CFRunLoopRunInMode(mode, forEver, false); }
 void end() { CFRunLoopStop(CFRunLoopGetMain()); }
+// Takes what is there, without waiting.
+void poll() { CFRunLoopRunInMode(kCFRunLoopDefaultMode, 0, false); }
 
 struct Computer {
     simulated::VirtualTime time;
@@ -49,6 +51,26 @@ class OtherSource {
   private:
     std::function<void()> work_;
     CFHandle<CFRunLoopSourceRef> source_;
+};
+
+// Somebody else's timer in the run loop; it fires once.
+class OtherTimer {
+  public:
+    OtherTimer(CFTimeInterval wait, std::function<void()> work) : work_(std::move(work)) {
+        CFRunLoopTimerContext context{};
+        context.info = this;
+        timer_ = CFHandle(CFRunLoopTimerCreate(
+            kCFAllocatorDefault, fake::FakeMac::current().runLoop().now() + wait, 0, 0, 0,
+            [](CFRunLoopTimerRef, void* self) { static_cast<OtherTimer*>(self)->work_(); }, &context));
+        CFRunLoopAddTimer(CFRunLoopGetMain(), timer_.get(), kCFRunLoopCommonModes);
+    }
+    OtherTimer(const OtherTimer&) = delete;
+    OtherTimer& operator=(const OtherTimer&) = delete;
+    ~OtherTimer() { CFRunLoopTimerInvalidate(timer_.get()); }
+
+  private:
+    std::function<void()> work_;
+    CFHandle<CFRunLoopTimerRef> timer_;
 };
 
 class MacRunLoopTest : public testing::Test {
@@ -116,12 +138,56 @@ TEST_F(MacRunLoopTest, GoesOnInARunLoopWithinItsOwnWork) {
     EXPECT_THAT(order, ElementsAre(1, 2, 3));
 }
 
+TEST_F(MacRunLoopTest, GoesOnInARunLoopWithinWorkThatAnotherSourceHasPosted) {
+    std::vector<int> order;
+    OtherSource other([&] {
+        main().post([&] {
+            main().post([&] {
+                order.push_back(1);
+                end();
+            });
+            runIn(fake::trackingMode());
+            order.push_back(2);
+        });
+    });
+    other.signal();
+    runIn(kCFRunLoopDefaultMode);
+    EXPECT_THAT(order, ElementsAre(1, 2));
+}
+
+TEST_F(MacRunLoopTest, GoesOnInARunLoopThatNeverWaits) {
+    std::vector<int> order;
+    main().post([&] {
+        order.push_back(1);
+        main().after(1ms, [&] { order.push_back(2); });
+    });
+    poll();
+    EXPECT_THAT(order, ElementsAre(1));
+    computer_.time.sleepFor(1ms);
+    // One for the timer, one for the pass.
+    poll();
+    poll();
+    EXPECT_THAT(order, ElementsAre(1, 2));
+}
+
 TEST_F(MacRunLoopTest, SeesATimerThatAnotherSourceHasStarted) {
     bool hasRun = false;
     OtherSource other([&] { main().after(1ms, [&] { hasRun = true; }); });
     other.signal();
     runIn(kCFRunLoopDefaultMode);
     EXPECT_TRUE(hasRun);
+}
+
+TEST_F(MacRunLoopTest, SeesATimerThatAnotherTimerHasStarted) {
+    bool hasRun = false;
+    OtherTimer other(1, [&] { main().after(1ms, [&] { hasRun = true; }); });
+    runIn(kCFRunLoopDefaultMode);
+    EXPECT_TRUE(hasRun);
+}
+
+TEST_F(MacRunLoopTest, HasNoTimerBeforeAnythingIsDue) {
+    EXPECT_FALSE(loop_.hasTimer());
+    EXPECT_EQ(computer_.mac.runLoop().armedTimers(), 0);
 }
 
 TEST_F(MacRunLoopTest, HasNoTimerWithNothingDue) {
@@ -188,6 +254,15 @@ TEST(MacRunLoop, RunsNothingAnyMoreWhenItHasGone) {
     computer.main.poster().post([&] { hasRun = true; });
     EXPECT_EQ(runIn(kCFRunLoopDefaultMode), kCFRunLoopRunFinished);
     EXPECT_FALSE(hasRun);
+}
+
+TEST(MacRunLoop, LeavesNothingInTheRunLoopWhenItGoes) {
+    Computer computer;
+    {
+        const MacRunLoop loop(computer.main, computer.scheduler);
+        EXPECT_EQ(computer.mac.runLoop().items(), 3);
+    }
+    EXPECT_EQ(computer.mac.runLoop().items(), 0);
 }
 
 class MacRunLoopDeathTest : public test::DeathTest {};

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 #include "macos/fake/Threads.h"
 #include "platform/macos/MacScheduler.h"
@@ -12,6 +13,17 @@ namespace {
 using namespace std::chrono_literals;
 using runtime::QualityOfService;
 
+// Remembers what it was asked for.
+class AskedScheduler : public simulated::VirtualTime {
+  public:
+    void startThread(std::string name, QualityOfService quality, std::function<void()> body) override {
+        names.push_back(name);
+        VirtualTime::startThread(std::move(name), quality, std::move(body));
+    }
+
+    std::vector<std::string> names;
+};
+
 class MacSchedulerTest : public testing::Test {
   protected:
     fake::ThreadTraits traitsOf(std::string name) {
@@ -22,7 +34,7 @@ class MacSchedulerTest : public testing::Test {
         return traits;
     }
 
-    simulated::VirtualTime time;
+    AskedScheduler time;
     MacScheduler scheduler{time};
 };
 
@@ -35,6 +47,12 @@ TEST_F(MacSchedulerTest, GivesAThreadItsNameAndItsQuality) {
 
 TEST_F(MacSchedulerTest, ShortensANameThatTheSystemWouldRefuse) {
     EXPECT_EQ(traitsOf(std::string(100, 'x')).name, std::string(63, 'x'));
+}
+
+TEST_F(MacSchedulerTest, AsksTheOneInsideForTheWholeName) {
+    const std::string name(100, 'x');
+    traitsOf(name);
+    EXPECT_EQ(time.names, std::vector{name});
 }
 
 TEST_F(MacSchedulerTest, HasTheTimesTheGatesAndTheSleepOfTheOneInside) {

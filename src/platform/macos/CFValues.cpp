@@ -27,9 +27,8 @@ std::optional<std::string> text(CFTypeRef object) {
 std::optional<std::string> bytes(CFTypeRef object) {
     if (CFGetTypeID(object) != CFDataGetTypeID()) return std::nullopt;
     const auto data = static_cast<CFDataRef>(object);
-    // Without bytes there may be no pointer to them.
+    // Without bytes there may be no pointer to them, which is as good.
     const auto length = static_cast<std::size_t>(CFDataGetLength(data));
-    if (length == 0) return std::string();
     return std::string(reinterpret_cast<const char*>(CFDataGetBytePtr(data)), length);
 }
 

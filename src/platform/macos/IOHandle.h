@@ -11,10 +11,6 @@ class IOHandle {
     // Takes over the reference that `owned` carries; IO_OBJECT_NULL owns nothing.
     explicit IOHandle(io_object_t owned) : owned_(owned) {}
     IOHandle(IOHandle&& other) noexcept : owned_(std::exchange(other.owned_, IO_OBJECT_NULL)) {}
-    IOHandle& operator=(IOHandle&& other) noexcept {
-        std::swap(owned_, other.owned_);
-        return *this;
-    }
     ~IOHandle() {
         if (owned_ != IO_OBJECT_NULL) IOObjectRelease(owned_);
     }

@@ -43,9 +43,9 @@ CFBooleanRef makeBoolean() {
 }
 
 CFBundleRef mainBundle() {
-    static Object bundle(bundleType);
-    bundle.isConstant = true;
-    return reinterpret_cast<CFBundleRef>(&bundle);
+    // No constant: whoever releases it, without ever having held it, is seen.
+    static Object* const bundle = new Object(bundleType);
+    return reinterpret_cast<CFBundleRef>(bundle);
 }
 
 // Whether `number` is a whole one within 64 bits.

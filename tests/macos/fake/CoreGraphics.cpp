@@ -28,7 +28,11 @@ using vantrel::platform::TransferTable;
 extern "C" {
 
 CGError CGGetOnlineDisplayList(uint32_t most, CGDirectDisplayID* list, uint32_t* count) {
-    if (fails("CGGetOnlineDisplayList")) return kCGErrorFailure;
+    if (fails("CGGetOnlineDisplayList")) {
+        // What a failure leaves behind means nothing.
+        *count = 2;
+        return kCGErrorFailure;
+    }
     if (list != nullptr) FakeMac::current().list();
     const auto online = displays().onlineDisplays();
     if (list == nullptr) {
@@ -93,6 +97,8 @@ CGError CGCancelDisplayConfiguration(CGDisplayConfigRef configuration) {
     return kCGErrorSuccess;
 }
 CGError CGCompleteDisplayConfiguration(CGDisplayConfigRef configuration, CGConfigureOption option) {
+    vantrel::runtime::require(option == kCGConfigureForSession,
+                              "a change that goes with the program, or stays for ever");
     if (fails("CGCompleteDisplayConfiguration")) {
         // The transaction has ended all the same.
         displays().cancelConfiguration(configuration);

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "macos/fake/FakeMac.h"
+#include "runtime/Fatal.h"
 
 namespace vantrel::macos::fake {
 namespace {
@@ -30,16 +31,15 @@ class Hold {
 CFRunLoopMode trackingMode() { return CFSTR("NSEventTrackingRunLoopMode"); }
 
 FakeRunLoop::FakeRunLoop(runtime::Scheduler& scheduler)
-    : Object(runLoopType), scheduler_(scheduler), gate_(scheduler.makeGate()) {
-    isConstant = true;
-}
+    : Object(runLoopType), scheduler_(scheduler), gate_(scheduler.makeGate()) {}
 
 FakeRunLoop::~FakeRunLoop() {
+    runtime::require(references == 1, "a run loop was released that nobody held, or is still held");
     while (!items_.empty()) invalidate(*items_.back());
 }
 
 CFAbsoluteTime FakeRunLoop::now() const {
-    return std::chrono::duration<double>(scheduler_.now().time_since_epoch()).count();
+    return epoch + std::chrono::duration<double>(scheduler_.now().time_since_epoch()).count();
 }
 
 CFRunLoopRunResult FakeRunLoop::run(CFRunLoopMode mode, CFTimeInterval seconds, bool returnsAfterSource) {
@@ -55,7 +55,7 @@ CFRunLoopRunResult FakeRunLoop::run(CFRunLoopMode mode, CFTimeInterval seconds, 
             if (seconds < farAway) wakeDate = std::min(wakeDate.value_or(end), end);
             std::optional<runtime::MonotonicTime> deadline;
             if (wakeDate) {
-                const std::chrono::duration<double> date(*wakeDate);
+                const std::chrono::duration<double> date(*wakeDate - epoch);
                 deadline = runtime::MonotonicTime(std::chrono::ceil<std::chrono::nanoseconds>(date));
             }
             ++waits_;
@@ -119,6 +119,7 @@ void FakeRunLoop::observe(CFRunLoopMode mode, CFRunLoopActivity activity) {
         observer->isCalled = true;
         observer->callout(reinterpret_cast<CFRunLoopObserverRef>(observer), activity, observer->info);
         observer->isCalled = false;
+        if (!observer->repeats) invalidate(*observer);
     }
 }
 
@@ -190,12 +191,13 @@ void CFRunLoopSourceSignal(CFRunLoopSourceRef source) {
     fake::live<fake::Source>(source, fake::sourceType).isSignalled = true;
 }
 
-CFRunLoopObserverRef CFRunLoopObserverCreate(CFAllocatorRef, CFOptionFlags activities, Boolean, CFIndex,
-                                             CFRunLoopObserverCallBack callout,
+CFRunLoopObserverRef CFRunLoopObserverCreate(CFAllocatorRef, CFOptionFlags activities, Boolean repeats,
+                                             CFIndex, CFRunLoopObserverCallBack callout,
                                              CFRunLoopObserverContext* context) {
     if (fake::calls().fails("CFRunLoopObserverCreate")) return nullptr;
     auto* observer = new fake::Observer;
     observer->activities = activities;
+    observer->repeats = repeats != 0;
     observer->callout = callout;
     observer->info = context->info;
     return (CFRunLoopObserverRef)fake::born(observer);

@@ -44,6 +44,7 @@ struct Timer : Item {
 struct Observer : Item {
     Observer() : Item(observerType) {}
     CFOptionFlags activities = 0;
+    bool repeats = true;
     CFRunLoopObserverCallBack callout = nullptr;
     void* info = nullptr;
     bool isCalled = false;
@@ -53,6 +54,8 @@ class FakeRunLoop : public Object {
   public:
     // A date as far away as this is never.
     static constexpr CFTimeInterval farAway = 1e9;
+    // The scheduler's clock and the one of dates begin at different moments.
+    static constexpr CFTimeInterval epoch = -4096;
 
     explicit FakeRunLoop(runtime::Scheduler& scheduler);
     ~FakeRunLoop() override;
@@ -66,6 +69,8 @@ class FakeRunLoop : public Object {
     void add(Item& item, CFRunLoopMode mode);
     void invalidate(Item& item);
 
+    // What was added and not invalidated.
+    std::size_t items() const { return items_.size(); }
     // Timers that will fire.
     std::size_t armedTimers() const;
     // How often it went to sleep.

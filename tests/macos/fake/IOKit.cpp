@@ -91,6 +91,8 @@ kern_return_t IORegistryCreateIterator(mach_port_t port, const io_name_t plane, 
     vantrel::runtime::require(port == kIOMainPortDefault && std::strcmp(plane, "IOService") == 0 &&
                                   options == kIORegistryIterateRecursively,
                               "another walk than the one over all services");
+    // What a failure leaves behind means nothing.
+    *iterator = 7;
     if (fails("IORegistryCreateIterator")) return kIOReturnError;
     auto walk = FakeMac::current().desk().registry.iterateServicePlane();
     if (!walk) return kIOReturnError;
@@ -108,9 +110,9 @@ io_object_t IOIteratorNext(io_iterator_t name) {
 
 kern_return_t IORegistryEntryGetName(io_registry_entry_t object, io_name_t buffer) {
     const std::string name = entry(object).name();
-    if (fails("IORegistryEntryGetName")) return kIOReturnError;
     // All of the buffer may be written.
     std::memset(buffer, 'x', sizeof(io_name_t));
+    if (fails("IORegistryEntryGetName")) return kIOReturnError;
     std::memcpy(buffer, name.c_str(), name.size() + 1);
     return KERN_SUCCESS;
 }

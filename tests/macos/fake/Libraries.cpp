@@ -6,6 +6,7 @@
 #include "macos/fake/DeskObjects.h"
 #include "macos/fake/FakeMac.h"
 #include "macos/fake/Objects.h"
+#include "runtime/Fatal.h"
 
 namespace vantrel::macos::fake {
 namespace {
@@ -92,7 +93,9 @@ void* find(std::size_t library, const std::string& name) {
     return nullptr;
 }
 
-void* open(const char* path) {
+void* open(const char* path, int mode) {
+    // Without RTLD_NOLOAD and its like, which find what somebody else has opened.
+    runtime::require(mode == RTLD_LAZY, "a library opened in a mode that nobody here needs");
     if (fails("dlopen")) return nullptr;
     for (const auto& library : paths) {
         if (std::strcmp(path, library) == 0) return const_cast<char(*)[80]>(&library);
@@ -122,7 +125,7 @@ NOT_INSTRUMENTED void* __wrap_dlopen(const char* path, int mode) {
     static constexpr char system[] = "/System/Library/";
     std::size_t same = 0;
     while (path != nullptr && system[same] != 0 && path[same] == system[same]) ++same;
-    return path != nullptr && system[same] == 0 ? vantrel::macos::fake::open(path)
+    return path != nullptr && system[same] == 0 ? vantrel::macos::fake::open(path, mode)
                                                 : __real_dlopen(path, mode);
 }
 
