@@ -10,9 +10,6 @@ function(vantrel_mac_bundle target)
   set_source_files_properties(${icon} PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
   set_target_properties(${target} PROPERTIES
     MACOSX_BUNDLE ON OUTPUT_NAME Vantrel MACOSX_BUNDLE_INFO_PLIST ${folder}/Info.plist.in)
-  # The entitlements are empty, and without a comment, which signing may stumble over: the
-  # hardened runtime as it is, and no sandbox. In one, the functions that reach a monitor's
-  # bus and the panel's backlight are not to be had.
   find_program(VANTREL_CODESIGN codesign)
   if(VANTREL_CODESIGN)
     add_custom_command(TARGET ${target} POST_BUILD VERBATIM
