@@ -14,7 +14,7 @@ from tree import Finding
 ROOMS = "src/CMakeLists.txt"
 # The room that chooses the implementation of the platform, and the implementations.
 APPLICATION = "src/app"
-IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix", "src/platform/macos")
+IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix", "src/platform/macos", "src/platform/linux")
 
 # The rooms for each toolkit, by how its headers begin.
 _MACOS = ("src/platform/macos", "src/ui/appkit")
@@ -23,6 +23,7 @@ TOOLKITS = {
     **{header: _MACOS for header in (
         "AppKit/", "CoreFoundation/", "CoreGraphics/", "Foundation/", "IOKit/", "ServiceManagement/", "dispatch/",
         "dlfcn.h", "mach/", "objc/", "os/", "pthread/")},
+    **{header: ("src/platform/linux",) for header in ("libudev.h", "linux/", "sys/epoll.h", "systemd/")},
 }
 
 # What a library of the system is included as, and what has to be linked for it.
