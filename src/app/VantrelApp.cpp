@@ -106,6 +106,7 @@ int VantrelApp::run(const std::vector<std::string>& arguments) {
 }
 
 int VantrelApp::run(const CommandLine& line) {
+    if (line.guard) return ThisComputer::guardOutputs();
     if (line.probe) return runProbe(line);
     if (line.play) return runStory(line);
     if (line.parseCapabilities) return parseCapabilities(*line.parseCapabilities);

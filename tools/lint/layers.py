@@ -32,6 +32,8 @@ LIBRARIES = {
     "CLI/": "CLI11::CLI11",
     "utf8proc.h": "PkgConfig::utf8proc",
     "xcb/": "PkgConfig::xcb",
+    "systemd/": "PkgConfig::systemd",
+    "libudev.h": "PkgConfig::udev",
     "QSvg": "Qt6::Svg",
     "QDBus": "Qt6::DBus",
     "Q": "Qt6::Widgets",
