@@ -85,12 +85,12 @@ void probe(const CommandLine& line, std::optional<simulated::Desk> desk, std::os
            std::ostream& errors) {
     const auto scheduler = makeScheduler(line);
     runtime::MainLoop loop(*scheduler);
-    const auto computer =
-        Computers::make(line, std::move(desk), Computers::Settings::forgotten, *scheduler, loop);
+    auto computer = Computers::make(line, std::move(desk), Computers::Settings::forgotten, *scheduler, loop);
     ProgramLog log(computer->systemLog(), line.log, *scheduler, errors);
     platform::Platform platform = computer->platform(log);
     ddc::Probe::run(platform, output);
     scheduler->finishThreads();
+    computer.reset();
 }
 
 }  // namespace
