@@ -131,6 +131,24 @@ TEST_F(RandRDesktopTest, OffAndOnBringsBackPanning) {
     expectToComeBack("DUMMY2");
 }
 
+TEST_F(RandRDesktopTest, PanningGoesWithTheOutputNotWithTheCrtc) {
+    const std::string first = arrangement("DUMMY0");
+    const std::string firstShown = xrandr.shown("DUMMY0");
+    xrandr.expect("--output DUMMY2 --panning 2000x1500+3840+0/2000x1500+3840+0/10/20/30/40");
+    const std::string second = arrangement("DUMMY2");
+    const std::string secondShown = xrandr.shown("DUMMY2");
+    EXPECT_TRUE(desktop->darken("DUMMY2"));
+    EXPECT_TRUE(desktop->darken("DUMMY0"));
+    // Each on the CRTC that the other had.
+    xrandr.expect("--output DUMMY3 --crtc 0 --mode 1920x1080 --pos 0x1500");
+    EXPECT_TRUE(desktop->light("DUMMY0", first));
+    EXPECT_EQ(xrandr.shown("DUMMY0"), firstShown);
+    xrandr.expect("--output DUMMY3 --off");
+    EXPECT_TRUE(desktop->light("DUMMY2", second));
+    EXPECT_EQ(xrandr.shown("DUMMY2"), secondShown);
+    EXPECT_THAT(xrandr.report().at("DUMMY2"), HasSubstr("10/20/30/40"));
+}
+
 TEST_F(RandRDesktopTest, WhatAnotherOutputLeftOnTheCrtcDoesNotComeBack) {
     const std::string arrangement = this->arrangement("DUMMY2");
     const std::string before = xrandr.shown("DUMMY2");
@@ -292,6 +310,7 @@ TEST_F(RandRDesktopClonesTest, HaveOneTable) {
 TEST_F(RandRDesktopTest, WhatTheHardwareRefusesIsFollowedByWhatItTakes) {
     xrandr.run("--addmode DUMMY2 1368x768");
     EXPECT_THAT(xrandr.run("--output DUMMY2 --mode 1368x768"), HasSubstr("failed"));
+    xrandr.expect("--output DUMMY2 --mode 1920x1080");
     auto placement = *Placement::parse(arrangement("DUMMY2"));
     EXPECT_TRUE(desktop->darken("DUMMY2"));
     // The screen would have to grow for it.
