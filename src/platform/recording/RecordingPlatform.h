@@ -28,9 +28,9 @@ class RecordingPlatform {
           functions_(libraries_) {}
 
     platform::Platform platform() {
-        return {real_.scheduler, real_.mainLoop,   displays_,      registry_,
-                functions_,      real_.baseTables, real_.defaults, real_.workspace,
-                real_.localizer, real_.loginItem,  real_.log};
+        return {real_.scheduler, real_.mainLoop,   displays_,       registry_,
+                functions_,      real_.baseTables, real_.defaults,  real_.workspace,
+                real_.localizer, real_.loginItem,  real_.obstacles, real_.log};
     }
     const Recording& recording() const { return recording_; }
 
