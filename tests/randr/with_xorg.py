@@ -23,7 +23,7 @@ import sys
 import tempfile
 
 SKIPPED = 77
-NEEDED_PROGRAMS = ["Xorg", "Xvfb", "xrandr"]
+NEEDED_PROGRAMS = ["Xorg", "Xvfb", "xrandr", "setpriv"]
 MODULES = pathlib.Path("/usr/lib/xorg/modules")
 DRIVER = MODULES / "drivers" / "dummy_drv.so"
 MODE = "1920x1080"
@@ -82,9 +82,11 @@ class Servers:
         read, write = os.pipe()
         log = self.folder / f"{len(self._processes)}-{command[0]}.txt"
         with open(log, "wb") as output:
-            process = subprocess.Popen([*command, "-nolisten", "tcp", "-noreset", "-displayfd", str(write)],
-                                       pass_fds=[write], cwd=self.folder, start_new_session=True,
-                                       stdin=subprocess.DEVNULL, stdout=output, stderr=output)
+            # Whatever ends this program ends the server.
+            process = subprocess.Popen(
+                ["setpriv", "--pdeathsig", "KILL", *command, "-nolisten", "tcp", "-noreset", "-displayfd", str(write)],
+                pass_fds=[write], cwd=self.folder, start_new_session=True,
+                stdin=subprocess.DEVNULL, stdout=output, stderr=output)
         self._processes.append(process)
         os.close(write)
         with os.fdopen(read) as answer:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "platform/linux/randr/Owned.h"
 
@@ -110,6 +111,40 @@ std::optional<Layout::Crtc> answer(xcb_connection_t* connection, const CrtcQuest
     return crtc;
 }
 
+std::vector<Layout::Output> outputsOf(const Connection& connection, const Resources& resources) {
+    const auto ids = list(xcb_randr_get_screen_resources_current_outputs(&resources),
+                          xcb_randr_get_screen_resources_current_outputs_length(&resources));
+    std::vector<xcb_randr_get_output_info_cookie_t> asked;
+    asked.reserve(ids.size());
+    for (const auto id : ids) {
+        asked.push_back(xcb_randr_get_output_info(connection.get(), id, resources.config_timestamp));
+    }
+    std::vector<Layout::Output> outputs;
+    for (std::size_t index = 0; index < ids.size(); ++index) {
+        const Owned<xcb_randr_get_output_info_reply_t> info(
+            xcb_randr_get_output_info_reply(connection.get(), asked[index], nullptr));
+        if (info) outputs.push_back(outputOf(ids[index], *info));
+    }
+    return outputs;
+}
+
+std::vector<Layout::Crtc> crtcsOf(const Connection& connection, const Resources& resources) {
+    const auto ids = list(xcb_randr_get_screen_resources_current_crtcs(&resources),
+                          xcb_randr_get_screen_resources_current_crtcs_length(&resources));
+    xcb_connection_t* const server = connection.get();
+    std::vector<CrtcQuestions> asked;
+    asked.reserve(ids.size());
+    for (const auto id : ids) {
+        asked.push_back({id, xcb_randr_get_crtc_info(server, id, resources.config_timestamp),
+                         xcb_randr_get_crtc_transform(server, id), xcb_randr_get_panning(server, id)});
+    }
+    std::vector<Layout::Crtc> crtcs;
+    for (const CrtcQuestions& questions : asked) {
+        if (auto crtc = answer(server, questions)) crtcs.push_back(std::move(*crtc));
+    }
+    return crtcs;
+}
+
 template <class Items, class Matches>
 const typename Items::value_type* find(const Items& items, Matches matches) {
     const auto found = std::find_if(items.begin(), items.end(), matches);
@@ -142,32 +177,11 @@ std::optional<Layout> Layout::read(const Connection& connection) {
     layout.mostWidth = range->max_width;
     layout.mostHeight = range->max_height;
     layout.modes = modesOf(*resources);
-
-    const auto outputs = list(xcb_randr_get_screen_resources_current_outputs(resources.get()),
-                              xcb_randr_get_screen_resources_current_outputs_length(resources.get()));
-    const auto crtcs = list(xcb_randr_get_screen_resources_current_crtcs(resources.get()),
-                            xcb_randr_get_screen_resources_current_crtcs_length(resources.get()));
-    std::vector<xcb_randr_get_output_info_cookie_t> outputsAsked;
-    std::vector<CrtcQuestions> crtcsAsked;
-    for (const auto id : outputs) {
-        outputsAsked.push_back(xcb_randr_get_output_info(server, id, layout.configured));
-    }
-    for (const auto id : crtcs) {
-        crtcsAsked.push_back({id, xcb_randr_get_crtc_info(server, id, layout.configured),
-                              xcb_randr_get_crtc_transform(server, id), xcb_randr_get_panning(server, id)});
-    }
-    for (std::size_t index = 0; index < outputs.size(); ++index) {
-        const Owned<xcb_randr_get_output_info_reply_t> info(
-            xcb_randr_get_output_info_reply(server, outputsAsked[index], nullptr));
-        if (info) layout.outputs.push_back(outputOf(outputs[index], *info));
-    }
-    for (const CrtcQuestions& asked : crtcsAsked) {
-        auto crtc = answer(server, asked);
-        if (!crtc) continue;
-        if (const auto mode = layout.modes.find(crtc->mode); mode != layout.modes.end()) {
-            crtc->picture.mode = mode->second;
-        }
-        layout.crtcs.push_back(std::move(*crtc));
+    layout.outputs = outputsOf(connection, *resources);
+    layout.crtcs = crtcsOf(connection, *resources);
+    for (Crtc& crtc : layout.crtcs) {
+        const auto mode = layout.modes.find(crtc.mode);
+        if (mode != layout.modes.end()) crtc.picture.mode = mode->second;
     }
     if (!connection.isAlive()) return std::nullopt;
     return layout;

@@ -1,8 +1,11 @@
 #include "platform/linux/randr/Picture.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vantrel::randr {
