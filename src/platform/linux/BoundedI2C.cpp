@@ -6,20 +6,21 @@
 #include <utility>
 #include <vector>
 
-#include "runtime/SerialQueue.h"
-
 namespace vantrel::linux {
 
 // One bus: its thread, and at most one transfer on it.
 class BoundedI2C::Lane {
   public:
-    Lane(runtime::Scheduler& scheduler, Bus bus)
-        : scheduler_(scheduler),
-          state_(std::make_shared<State>()),
-          queue_(scheduler, "org.vantrel.i2c-" + std::to_string(bus),
-                 runtime::QualityOfService::userInitiated) {
+    Lane(runtime::Scheduler& scheduler, Bus bus) : scheduler_(scheduler), state_(std::make_shared<State>()) {
+        state_->begun = scheduler.makeGate();
         state_->ended = scheduler.makeGate();
+        scheduler.startServant(
+            "org.vantrel.i2c-" + std::to_string(bus), runtime::QualityOfService::userInitiated,
+            [state = state_] { state->serve(); }, [state = state_] { state->close(); });
     }
+    Lane(const Lane&) = delete;
+    Lane& operator=(const Lane&) = delete;
+    ~Lane() { state_->close(); }
 
     // `transfer` may outlive the call: it owns what it works on.
     int run(std::function<int()> transfer) {
@@ -29,8 +30,9 @@ class BoundedI2C::Lane {
             if (state_->isBusy) return EAGAIN;
             state_->isBusy = true;
             ticket = ++state_->ticket;
+            state_->transfer = std::move(transfer);
         }
-        queue_.submit([state = state_, transfer = std::move(transfer)] { state->end(transfer()); });
+        state_->begun->open();
         const runtime::MonotonicTime deadline = scheduler_.now() + bound;
         while (true) {
             const runtime::Wake wake = state_->ended->wait(deadline);
@@ -44,11 +46,38 @@ class BoundedI2C::Lane {
   private:
     struct State {
         std::mutex mutex;
+        bool isClosed = false;
         bool isBusy = false;
+        // Until it has begun.
+        std::function<int()> transfer;
         // Of the last transfer that began.
         std::uint64_t ticket = 0;
         int result = 0;
+        std::unique_ptr<runtime::Gate> begun;
         std::unique_ptr<runtime::Gate> ended;
+
+        // The body of the thread.
+        void serve() {
+            for (;;) {
+                std::unique_lock lock(mutex);
+                const auto next = std::exchange(transfer, nullptr);
+                if (!next && isClosed) return;
+                lock.unlock();
+                if (next) {
+                    end(next());
+                } else {
+                    begun->wait(std::nullopt);
+                }
+            }
+        }
+
+        void close() {
+            {
+                const std::lock_guard lock(mutex);
+                isClosed = true;
+            }
+            begun->open();
+        }
 
         void end(int outcome) {
             const std::lock_guard lock(mutex);
@@ -59,8 +88,7 @@ class BoundedI2C::Lane {
     };
 
     runtime::Scheduler& scheduler_;
-    std::shared_ptr<State> state_;
-    runtime::SerialQueue queue_;
+    const std::shared_ptr<State> state_;
 };
 
 void BoundedI2C::keepBuses(const std::set<Bus>& buses) {
