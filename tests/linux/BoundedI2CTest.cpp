@@ -265,6 +265,28 @@ TEST_F(BoundedI2CTest, FailsAtOnceWhileAnotherTransferIsUnderWay) {
     EXPECT_EQ(devices.counts(4), (FakeI2C::Counts{.reads = 1}));
 }
 
+TEST_F(BoundedI2CTest, TellsEachCallerItsOwnResultWhenOneComesAsAnotherEnds) {
+    write();  // the bus's thread is up
+    devices.delay(4, 1s);
+    std::optional<std::pair<int, Bytes>> first;
+    std::optional<std::pair<int, Bytes>> second;
+    run("first", [&] { first = read(4); });
+    // Due at the moment at which the first transfer ends, before the first caller wakes.
+    run("second", [&] {
+        time.sleepFor(0s);
+        time.sleepFor(1s);
+        second = read(4, otherAddress);
+        while (second->first == EAGAIN) {
+            time.sleepFor(1ms);
+            second = read(4, otherAddress);
+        }
+    });
+    time.sleepFor(10s);
+    EXPECT_EQ(first, std::pair(0, Bytes(3, 0x04)));
+    EXPECT_EQ(second, std::pair(0, Bytes(3, 0x14)));
+    EXPECT_EQ(devices.counts(4).overlaps, 0);
+}
+
 TEST_F(BoundedI2CTest, KeepsTransfersApartWhateverHowManyThreadsTry) {
     test::forRandomSeeds(20, [this](std::uint64_t seed) {
         struct Tally {

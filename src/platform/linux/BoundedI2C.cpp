@@ -24,12 +24,10 @@ class BoundedI2C::Lane {
 
     // `transfer` may outlive the call: it owns what it works on.
     int run(std::function<int()> transfer) {
-        std::uint64_t ticket = 0;
         {
             const std::lock_guard lock(state_->mutex);
-            if (state_->isBusy) return EAGAIN;
-            state_->isBusy = true;
-            ticket = ++state_->ticket;
+            if (state_->phase != Phase::free) return EAGAIN;
+            state_->phase = Phase::underWay;
             state_->transfer = std::move(transfer);
         }
         state_->begun->open();
@@ -37,21 +35,27 @@ class BoundedI2C::Lane {
         while (true) {
             const runtime::Wake wake = state_->ended->wait(deadline);
             const std::lock_guard lock(state_->mutex);
-            if (!state_->isBusy && state_->ticket == ticket) return state_->result;
-            // What opened the gate may be the end of one that was given up before.
-            if (wake != runtime::Wake::opened) return ETIMEDOUT;
+            if (state_->phase == Phase::ended) {
+                state_->phase = Phase::free;
+                return state_->result;
+            }
+            // What opened the gate may be the end of one that nobody waited for at the gate.
+            if (wake == runtime::Wake::opened) continue;
+            state_->phase = Phase::givenUp;
+            return ETIMEDOUT;
         }
     }
 
   private:
+    // Free again only when its caller has the result, or doesn't want it any more.
+    enum class Phase { free, underWay, ended, givenUp };
+
     struct State {
         std::mutex mutex;
         bool isClosed = false;
-        bool isBusy = false;
+        Phase phase = Phase::free;
         // Until it has begun.
         std::function<int()> transfer;
-        // Of the last transfer that began.
-        std::uint64_t ticket = 0;
         int result = 0;
         std::unique_ptr<runtime::Gate> begun;
         std::unique_ptr<runtime::Gate> ended;
@@ -81,8 +85,12 @@ class BoundedI2C::Lane {
 
         void end(int outcome) {
             const std::lock_guard lock(mutex);
+            if (phase == Phase::givenUp) {
+                phase = Phase::free;
+                return;
+            }
             result = outcome;
-            isBusy = false;
+            phase = Phase::ended;
             ended->open();
         }
     };
