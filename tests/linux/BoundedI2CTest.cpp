@@ -239,6 +239,21 @@ TEST_F(BoundedI2CTest, DoesNotHoldOneBusUpForAnother) {
     EXPECT_EQ(outcome, ETIMEDOUT);
 }
 
+TEST_F(BoundedI2CTest, KeepsABusBusyThatHangsWhenItIsDroppedAndTakenAgain) {
+    devices.delay(4, 10s);
+    EXPECT_EQ(write(), ETIMEDOUT);
+    buses.keepBuses({5});
+    EXPECT_EQ(write(), ENODEV);
+    buses.keepBuses({4, 5});
+    const auto again = time.now();
+    EXPECT_EQ(write(), EAGAIN);
+    EXPECT_EQ(time.now(), again);
+    devices.delay(4, 0s);
+    time.sleepFor(10s);
+    EXPECT_EQ(write(), 0);
+    EXPECT_EQ(devices.counts(4), (FakeI2C::Counts{.writes = 2}));
+}
+
 TEST_F(BoundedI2CTest, ForgetsABusThatHungWhileItWasDropped) {
     devices.delay(4, 3s);
     EXPECT_EQ(write(), ETIMEDOUT);

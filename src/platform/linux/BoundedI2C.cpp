@@ -46,6 +46,11 @@ class BoundedI2C::Lane {
         }
     }
 
+    bool isFree() const {
+        const std::lock_guard lock(state_->mutex);
+        return state_->phase == Phase::free;
+    }
+
   private:
     // Free again only when its caller has the result, or doesn't want it any more.
     enum class Phase { free, underWay, ended, givenUp };
@@ -101,16 +106,18 @@ class BoundedI2C::Lane {
 
 void BoundedI2C::keepBuses(const std::set<Bus>& buses) {
     const std::lock_guard lock(mutex_);
-    std::erase_if(lanes_, [&buses](const auto& lane) { return !buses.contains(lane.first); });
-    for (const Bus bus : buses) {
+    kept_ = buses;
+    // One that hangs still does when its bus is kept again.
+    std::erase_if(lanes_,
+                  [this](const auto& lane) { return !kept_.contains(lane.first) && lane.second->isFree(); });
+    for (const Bus bus : kept_) {
         if (!lanes_.contains(bus)) lanes_.emplace(bus, std::make_shared<Lane>(scheduler_, bus));
     }
 }
 
 std::shared_ptr<BoundedI2C::Lane> BoundedI2C::lane(Bus bus) const {
     const std::lock_guard lock(mutex_);
-    const auto found = lanes_.find(bus);
-    return found != lanes_.end() ? found->second : nullptr;
+    return kept_.contains(bus) ? lanes_.at(bus) : nullptr;
 }
 
 int BoundedI2C::write(Bus bus, std::uint8_t address, std::span<const std::uint8_t> bytes) {
