@@ -72,36 +72,38 @@ void Inventory::look() {
 
 void Inventory::findAdapters(Displays& displays) {
     std::set<I2CDevices::Bus> found;
-    std::set<I2CDevices::Bus> used;
+    std::map<std::string, Asked> asked;
+    // Before anybody is asked: what is known to be one monitor's is no other's.
     for (Display& display : displays) {
         display.adapter = Adapters::ofConnector(sysfs_, display.connector);
+        if (!display.adapter) {
+            display.adapter = askedBefore(display.connector);
+            if (display.adapter)
+                asked.emplace(display.connector.folder, Asked{display.connector, *display.adapter});
+        }
         if (display.adapter) found.insert(display.adapter->bus);
     }
-    used = found;
-    std::map<std::string, Asked> asked;
+    std::set<I2CDevices::Bus> used = found;
     for (Display& display : displays) {
         if (display.adapter || display.connector.isBuiltIn()) continue;
-        const auto before = asked_.find(display.connector.folder);
-        const bool isKnown = before != asked_.end() &&
-                             before->second.connector.edid == display.connector.edid &&
-                             before->second.adapter && isThere(*before->second.adapter);
-        if (isKnown) {
-            display.adapter = before->second.adapter;
-        } else {
-            auto candidates = Adapters::ofDevice(sysfs_, display.connector.device);
-            std::erase_if(candidates,
-                          [&found](const Adapter& adapter) { return found.contains(adapter.bus); });
-            for (const Adapter& candidate : candidates) used.insert(candidate.bus);
-            buses_.keepBuses(used);
-            display.adapter = Adapters::withEDID(buses_, candidates, display.connector.edid);
-        }
-        if (display.adapter) {
-            found.insert(display.adapter->bus);
-            asked.insert_or_assign(display.connector.folder, Asked{display.connector, display.adapter});
-        }
+        auto candidates = Adapters::ofDevice(sysfs_, display.connector.device);
+        std::erase_if(candidates, [&found](const Adapter& adapter) { return found.contains(adapter.bus); });
+        for (const Adapter& candidate : candidates) used.insert(candidate.bus);
+        buses_.keepBuses(used);
+        display.adapter = Adapters::withEDID(buses_, candidates, display.connector.edid);
+        if (!display.adapter) continue;
+        found.insert(display.adapter->bus);
+        asked.emplace(display.connector.folder, Asked{display.connector, *display.adapter});
     }
     asked_ = std::move(asked);
     buses_.keepBuses(found);
+}
+
+std::optional<Adapter> Inventory::askedBefore(const Connector& connector) const {
+    const auto before = asked_.find(connector.folder);
+    if (before == asked_.end() || before->second.connector.edid != connector.edid) return std::nullopt;
+    if (!isThere(before->second.adapter)) return std::nullopt;
+    return before->second.adapter;
 }
 
 std::shared_ptr<const Inventory::Displays> Inventory::displays() const {

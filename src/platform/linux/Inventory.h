@@ -5,7 +5,7 @@
 // monitor plugged in again, or after a restart, has the same one.
 // Threads: look() on the main thread, the rest on any.
 // Time: a look reads the kernel's files; a connector that nothing says the bus of costs a
-// transfer to each candidate, once for each time that its monitor is plugged in.
+// transfer to each candidate, until its monitor is found, each time that it is plugged in.
 #pragma once
 
 #include <map>
@@ -52,10 +52,11 @@ class Inventory {
     // Main thread. What was found out by asking the monitor.
     struct Asked {
         Connector connector;
-        std::optional<Adapter> adapter;
+        Adapter adapter;
     };
 
     void findAdapters(Displays& displays);
+    std::optional<Adapter> askedBefore(const Connector& connector) const;
 
     const Sysfs& sysfs_;
     BoundedI2C& buses_;
