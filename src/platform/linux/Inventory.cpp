@@ -72,29 +72,40 @@ void Inventory::look() {
 
 void Inventory::findAdapters(Displays& displays) {
     std::set<I2CDevices::Bus> found;
+    std::map<std::string, Asked> asked;
+    // Before anybody is asked: what is known to be one monitor's is no other's.
     for (Display& display : displays) {
         if (display.connector.isBuiltIn()) continue;
         display.adapter = Adapters::ofConnector(sysfs_, display.connector);
+        if (!display.adapter) {
+            display.adapter = askedBefore(display.connector);
+            if (display.adapter) note(asked, display);
+        }
         if (display.adapter) found.insert(display.adapter->bus);
     }
-    std::map<std::string, Asked> asked;
     for (Display& display : displays) {
         if (display.adapter || display.connector.isBuiltIn()) continue;
-        display.adapter = adapterByAsking(display.connector, found);
+        display.adapter = ask(display.connector, found);
         if (!display.adapter) continue;
+        note(asked, display);
         found.insert(display.adapter->bus);
-        asked.emplace(display.connector.folder, Asked{display.connector.edid, *display.adapter});
     }
     asked_ = std::move(asked);
     buses_.keepBuses(found);
 }
 
-std::optional<Adapter> Inventory::adapterByAsking(const Connector& connector,
-                                                  const std::set<I2CDevices::Bus>& others) {
-    if (const auto before = asked_.find(connector.folder); before != asked_.end()) {
-        const auto& [edid, adapter] = before->second;
-        if (edid == connector.edid && isThere(adapter) && !others.contains(adapter.bus)) return adapter;
-    }
+void Inventory::note(std::map<std::string, Asked>& asked, const Display& display) {
+    asked.emplace(display.connector.folder, Asked{display.connector.edid, *display.adapter});
+}
+
+std::optional<Adapter> Inventory::askedBefore(const Connector& connector) const {
+    const auto before = asked_.find(connector.folder);
+    if (before == asked_.end() || before->second.edid != connector.edid) return std::nullopt;
+    if (!isThere(before->second.adapter)) return std::nullopt;
+    return before->second.adapter;
+}
+
+std::optional<Adapter> Inventory::ask(const Connector& connector, const std::set<I2CDevices::Bus>& others) {
     auto candidates = Adapters::ofDevice(sysfs_, connector.device);
     std::erase_if(candidates, [&others](const Adapter& adapter) { return others.contains(adapter.bus); });
     std::set<I2CDevices::Bus> used = others;

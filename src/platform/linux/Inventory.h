@@ -5,7 +5,7 @@
 // monitor plugged in again, or after a restart, has the same one.
 // Threads: look() on the main thread, the rest on any.
 // Time: a look reads the kernel's files; a connector that nothing says the bus of costs a
-// transfer to each candidate, once for each time that its monitor is plugged in.
+// transfer to each candidate, until its monitor is found, each time that it is plugged in.
 #pragma once
 
 #include <map>
@@ -58,9 +58,11 @@ class Inventory {
     };
 
     void findAdapters(Displays& displays);
-    // `others` lead to other monitors.
-    std::optional<Adapter> adapterByAsking(const Connector& connector,
-                                           const std::set<I2CDevices::Bus>& others);
+    static void note(std::map<std::string, Asked>& asked, const Display& display);
+    // What was found out at an earlier look, if it still holds.
+    std::optional<Adapter> askedBefore(const Connector& connector) const;
+    // Asks every bus of the graphics device but `others`, which lead to other monitors.
+    std::optional<Adapter> ask(const Connector& connector, const std::set<I2CDevices::Bus>& others);
 
     const Sysfs& sysfs_;
     BoundedI2C& buses_;
