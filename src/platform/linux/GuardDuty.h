@@ -3,6 +3,9 @@
 // Threads: main thread. Lifetime: everything given to it outlives it.
 #pragma once
 
+#include <chrono>
+#include <optional>
+
 #include "platform/linux/Desktop.h"
 #include "platform/linux/OutputSwitch.h"
 #include "platform/linux/Session.h"
@@ -12,6 +15,10 @@ namespace vantrel::linux {
 
 class GuardDuty {
   public:
+    // Before another try where a desktop refused the light: soon enough for somebody in the
+    // dark, rare enough for a desktop that is busy.
+    static constexpr std::chrono::seconds pause{1};
+
     GuardDuty(Desktop& desktop, Session& session, OutputSwitch& outputs, runtime::MainLoop& mainLoop);
     GuardDuty(const GuardDuty&) = delete;
     GuardDuty& operator=(const GuardDuty&) = delete;
@@ -24,11 +31,13 @@ class GuardDuty {
 
   private:
     void look();
+    void keepLight();
 
     Desktop& desktop_;
     Session& session_;
     OutputSwitch& outputs_;
     runtime::MainLoop& mainLoop_;
+    std::optional<runtime::MainLoop::TimerID> again_;
 };
 
 }  // namespace vantrel::linux
