@@ -19,10 +19,13 @@ class TransferTables {
 
     std::optional<platform::TransferTable> table(const std::string& output) { return desktop_.table(output); }
     void set(const std::string& output, const platform::TransferTable& table);
-    // Gives every output back what it had.
+    // Gives every output back what it had; one that has no table at the moment, the next time.
     void restore();
 
   private:
+    // What the output had before the first table was set, by this program or an earlier one.
+    std::optional<platform::TransferTable> first(const std::string& output) const;
+
     Desktop& desktop_;
     SessionMemory& memory_;
     // What each output that was set had before.
