@@ -13,7 +13,7 @@ struct Environment {
     std::optional<std::string> home;
     std::optional<std::string> configHome;
     std::optional<std::string> stateHome;
-    std::optional<std::string> runtimeFolder;
+    std::optional<std::string> runtimeFolder = std::nullopt;
 };
 
 // Of this process.
