@@ -94,6 +94,7 @@ class FakeDesktop : public Desktop {
 
     std::string name() const override { return "Fake"; }
     std::string identity() const override { return identityText; }
+    bool isThere() override { return !isGone_; }
     std::vector<Output> outputs() override { return isGone_ ? std::vector<Output>() : outputs_; }
 
     std::optional<platform::TransferTable> table(const std::string& output) override {

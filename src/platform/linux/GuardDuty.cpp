@@ -14,7 +14,7 @@ GuardDuty::~GuardDuty() {
     if (again_) mainLoop_.cancel(*again_);
 }
 
-bool GuardDuty::isNeeded() { return !outputs_.isIdle() && !desktop_.outputs().empty(); }
+bool GuardDuty::isNeeded() { return !outputs_.isIdle() && desktop_.isThere(); }
 
 void GuardDuty::run() {
     keepLight();
@@ -30,7 +30,7 @@ void GuardDuty::keepLight() {
     if (again_) mainLoop_.cancel(*again_);
     again_.reset();
     if (outputs_.keepLight()) return;
-    again_ = mainLoop_.after(pause, [this] {
+    again_ = mainLoop_.after(OutputSwitch::pause, [this] {
         again_.reset();
         look();
     });

@@ -3,7 +3,6 @@
 // Threads: main thread. Lifetime: everything given to it outlives it.
 #pragma once
 
-#include <chrono>
 #include <optional>
 
 #include "platform/linux/Desktop.h"
@@ -15,10 +14,6 @@ namespace vantrel::linux {
 
 class GuardDuty {
   public:
-    // Before another try where a desktop refused the light: soon enough for somebody in the
-    // dark, rare enough for a desktop that is busy.
-    static constexpr std::chrono::seconds pause{1};
-
     GuardDuty(Desktop& desktop, Session& session, OutputSwitch& outputs, runtime::MainLoop& mainLoop);
     GuardDuty(const GuardDuty&) = delete;
     GuardDuty& operator=(const GuardDuty&) = delete;

@@ -86,6 +86,10 @@ bool OutputSwitch::light(const std::string& output) {
     return isDone;
 }
 
+void OutputSwitch::takeOver() {
+    if (guard_ != nullptr && !isIdle()) guard_->post();
+}
+
 bool OutputSwitch::keepLight() {
     const SessionMemory::Notes darkened = memory_.darkened();
     if (darkened.empty()) return true;

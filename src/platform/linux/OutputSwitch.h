@@ -9,6 +9,7 @@
 // Threads: main thread. Lifetime: everything given to it outlives it.
 #pragma once
 
+#include <chrono>
 #include <set>
 #include <string>
 #include <vector>
@@ -23,6 +24,10 @@ namespace vantrel::linux {
 
 class OutputSwitch {
   public:
+    // Before another try where the desktop refused the light: soon enough for somebody in
+    // the dark, rare enough for a desktop that is busy.
+    static constexpr std::chrono::seconds pause{1};
+
     // Without a guard nothing is turned off; the guard itself needs none.
     OutputSwitch(Desktop& desktop, Session& session, SessionMemory& memory, OutputGuard* guard,
                  platform::Log log);
@@ -33,6 +38,9 @@ class OutputSwitch {
     bool darken(const std::string& output);
     bool light(const std::string& output);
 
+    // To be called when a program starts: what an earlier one turned off, which has crashed
+    // since, perhaps together with its guard, is guarded again.
+    void takeOver();
     // To be called whenever outputs or lid may have changed: lights what was turned off
     // if nothing else can be seen, and forgets what has been lit by others. False when that
     // failed: nothing can be seen, and another try may help.
