@@ -45,6 +45,7 @@ class RealGate : public Gate {
 struct RealScheduler::Running {
     std::atomic<bool> ended = false;
     std::thread thread;
+    std::function<void()> end;
 };
 
 MonotonicTime RealScheduler::now() const {
@@ -60,24 +61,37 @@ void RealScheduler::sleepFor(MonotonicClock::duration duration) { std::this_thre
 std::unique_ptr<Gate> RealScheduler::makeGate() { return std::make_unique<RealGate>(); }
 
 void RealScheduler::startThread(std::string, QualityOfService, std::function<void()> body) {
+    start(threads_, std::move(body), {});
+}
+
+void RealScheduler::startServant(std::string, QualityOfService, std::function<void()> body,
+                                 std::function<void()> end) {
+    start(servants_, std::move(body), std::move(end));
+}
+
+void RealScheduler::start(Threads& threads, std::function<void()> body, std::function<void()> end) {
     // Threads end when their monitors go; joining the ended ones here keeps a
     // day of hot-plugging from piling them up.
-    std::erase_if(threads_, [](const std::shared_ptr<Running>& running) {
+    std::erase_if(threads, [](const std::shared_ptr<Running>& running) {
         if (!running->ended) return false;
         running->thread.join();
         return true;
     });
     auto running = std::make_shared<Running>();
+    running->end = std::move(end);
     running->thread = std::thread([running = running.get(), body = std::move(body)] {
         body();
         running->ended = true;
     });
-    threads_.push_back(std::move(running));
+    threads.push_back(std::move(running));
 }
 
 void RealScheduler::finishThreads() {
     for (const auto& running : threads_) running->thread.join();
     threads_.clear();
+    for (const auto& running : servants_) running->end();
+    for (const auto& running : servants_) running->thread.join();
+    servants_.clear();
 }
 
 }  // namespace vantrel::runtime

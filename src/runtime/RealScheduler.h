@@ -20,11 +20,17 @@ class RealScheduler : public Scheduler {
     void sleepFor(MonotonicClock::duration duration) override;
     std::unique_ptr<Gate> makeGate() override;
     void startThread(std::string name, QualityOfService, std::function<void()> body) override;
+    void startServant(std::string name, QualityOfService, std::function<void()> body,
+                      std::function<void()> end) override;
     void finishThreads() override;
 
   private:
     struct Running;
-    std::vector<std::shared_ptr<Running>> threads_;
+    using Threads = std::vector<std::shared_ptr<Running>>;
+    static void start(Threads& threads, std::function<void()> body, std::function<void()> end);
+
+    Threads threads_;
+    Threads servants_;
 };
 
 }  // namespace vantrel::runtime

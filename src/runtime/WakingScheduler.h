@@ -30,6 +30,10 @@ class WakingScheduler : public Scheduler {
     void startThread(std::string name, QualityOfService quality, std::function<void()> body) override {
         inner_.startThread(std::move(name), quality, std::move(body));
     }
+    void startServant(std::string name, QualityOfService quality, std::function<void()> body,
+                      std::function<void()> end) override {
+        inner_.startServant(std::move(name), quality, std::move(body), std::move(end));
+    }
     void finishThreads() override { inner_.finishThreads(); }
 
   private:

@@ -20,10 +20,7 @@ class LinuxBench {
     explicit LinuxBench(const simulated::Desk& desk = test::usualDesk()) : hardware(desk, time) {}
     LinuxBench(const LinuxBench&) = delete;
     LinuxBench& operator=(const LinuxBench&) = delete;
-    ~LinuxBench() {
-        linux.reset();
-        time.finishThreads();
-    }
+    ~LinuxBench() { time.finishThreads(); }
 
     // What the platform calls the display at this place of the desk's; of equal ones that
     // are online, the first. Nothing while it isn't online.
@@ -48,13 +45,12 @@ class LinuxBench {
     platform::EnglishLocalizer localizer;
     simulated::SimulatedLoginItem loginItem;
     test::RecordingLogSink log;
-    std::optional<LinuxPlatform> linux{
-        std::in_place,
-        LinuxPlatform::Parts{hardware.sysfs, hardware.devices, hardware.nodes, hardware.events,
-                             hardware.session, hardware.desktop, memory, hardware.guard, defaults, localizer,
-                             loginItem},
-        log, time, loop};
-    platform::Platform platform = linux->platform();
+    LinuxPlatform linux{{hardware.sysfs, hardware.devices, hardware.nodes, hardware.events, hardware.session,
+                         hardware.desktop, memory, hardware.guard, defaults, localizer, loginItem},
+                        log,
+                        time,
+                        loop};
+    platform::Platform platform = linux.platform();
 };
 
 }  // namespace vantrel::linux

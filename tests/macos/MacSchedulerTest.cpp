@@ -49,6 +49,21 @@ TEST_F(MacSchedulerTest, ShortensANameThatTheSystemWouldRefuse) {
     EXPECT_EQ(traitsOf(std::string(100, 'x')).name, std::string(63, 'x'));
 }
 
+TEST_F(MacSchedulerTest, GivesAServantItsNameAndItsQualityToo) {
+    const auto gate = scheduler.makeGate();
+    fake::ThreadTraits traits;
+    scheduler.startServant(
+        "bus 4", QualityOfService::userInitiated,
+        [&] {
+            gate->wait(std::nullopt);
+            traits = fake::threadTraits();
+        },
+        [&] { gate->open(); });
+    scheduler.finishThreads();
+    EXPECT_EQ(traits.name, "bus 4");
+    EXPECT_EQ(traits.quality, QOS_CLASS_USER_INITIATED);
+}
+
 TEST_F(MacSchedulerTest, AsksTheOneInsideForTheWholeName) {
     const std::string name(100, 'x');
     traitsOf(name);

@@ -135,6 +135,46 @@ TEST_F(RealSchedulerTest, ThreadsCanBeStartedWhileOthersHaveEnded) {
     EXPECT_EQ(ended, 201);
 }
 
+TEST_F(RealSchedulerTest, FinishesItsServantsWhenTheOthersHaveEnded) {
+    const auto asked = scheduler.makeGate();
+    const auto answered = scheduler.makeGate();
+    std::atomic<int> ended = 0;
+    std::atomic<bool> shallEnd = false;
+    int endedBefore = -1;
+    scheduler.startServant(
+        "servant", QualityOfService::userInitiated,
+        [&] {
+            while (!shallEnd) {
+                asked->wait(std::nullopt);
+                answered->open();
+            }
+        },
+        [&] {
+            endedBefore = ended;
+            shallEnd = true;
+            asked->open();
+        });
+    start([&] {
+        asked->open();
+        answered->wait(std::nullopt);
+        ++ended;
+    });
+    scheduler.finishThreads();
+    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(endedBefore, 1);
+}
+
+TEST_F(RealSchedulerTest, FinishesServantsThatHaveEndedAlready) {
+    int ends = 0;
+    const auto end = [&ends] { ++ends; };
+    for (int i = 0; i < 200; ++i)
+        scheduler.startServant(
+            "servant", QualityOfService::userInitiated, [] {}, end);
+    scheduler.finishThreads();
+    scheduler.finishThreads();
+    EXPECT_LE(ends, 200);
+}
+
 TEST_F(RealSchedulerTest, DestroyingItFinishesItsThreads) {
     std::atomic<bool> ended = false;
     {

@@ -39,5 +39,21 @@ TEST(WakingScheduler, RunsThreadsThroughTheOneInside) {
     EXPECT_TRUE(hasRun);
 }
 
+TEST(WakingScheduler, RunsServantsThroughTheOneInside) {
+    RealScheduler inner;
+    WakingScheduler scheduler(inner);
+    const auto gate = scheduler.makeGate();
+    bool hasRun = false;
+    scheduler.startServant(
+        "servant", QualityOfService::userInitiated,
+        [&] {
+            gate->wait(std::nullopt);
+            hasRun = true;
+        },
+        [&] { gate->open(); });
+    inner.finishThreads();
+    EXPECT_TRUE(hasRun);
+}
+
 }  // namespace
 }  // namespace vantrel::runtime

@@ -335,7 +335,56 @@ TEST(VirtualTime, RunsTheSameWayEveryTime) {
     for (int i = 0; i < 100; ++i) ASSERT_EQ(traceOfABusyDesk(), first);
 }
 
+TEST_F(VirtualTimeTest, FinishingTellsTheServantsToEndWhenTheOthersHaveEnded) {
+    const auto gate = time.makeGate();
+    bool shallEnd = false;
+    time.startServant(
+        "servant", QualityOfService::userInitiated,
+        [&] {
+            while (!shallEnd) {
+                gate->wait(std::nullopt);
+                note("serves");
+                time.sleepFor(5ms);
+            }
+            note("servant ends");
+        },
+        [&] {
+            note("told to end");
+            shallEnd = true;
+            gate->open();
+        });
+    start([&] {
+        time.sleepFor(1ms);
+        gate->open();
+        time.sleepFor(10ms);
+        note("thread ends");
+    });
+    time.finishThreads();
+    EXPECT_EQ(trace, (Trace{"1 serves", "11 thread ends", "11 told to end", "11 serves", "16 servant ends"}));
+}
+
+TEST_F(VirtualTimeTest, AServantMayHaveEndedByItself) {
+    time.startServant(
+        "servant", QualityOfService::userInitiated, [&] { note("ends"); }, [&] { note("told"); });
+    time.sleepFor(1ms);
+    time.finishThreads();
+    time.finishThreads();
+    EXPECT_EQ(trace, (Trace{"0 ends", "1 told"}));
+}
+
 using VirtualTimeDeathTest = test::DeathTest;
+
+TEST_F(VirtualTimeDeathTest, AServantThatDoesNotEndWhenItIsToldToStopsTheProgram) {
+    EXPECT_DEATH(
+        {
+            VirtualTime time;
+            const auto gate = time.makeGate();
+            time.startServant(
+                "deaf", QualityOfService::userInitiated, [&] { gate->wait(std::nullopt); }, [] {});
+            time.finishThreads();
+        },
+        "thread \"deaf\" has nothing to do and does not end");
+}
 
 TEST_F(VirtualTimeDeathTest, AThreadThatWillNeverEndStopsTheProgram) {
     EXPECT_DEATH(

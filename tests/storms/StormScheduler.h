@@ -29,6 +29,10 @@ class StormScheduler : public runtime::Scheduler {
             body = nullptr;
         });
     }
+    void startServant(std::string name, runtime::QualityOfService quality, std::function<void()> body,
+                      std::function<void()> end) override {
+        time_.startServant(std::move(name), quality, std::move(body), std::move(end));
+    }
     void finishThreads() override { time_.finishThreads(); }
 
   private:

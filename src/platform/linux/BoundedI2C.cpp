@@ -6,75 +6,118 @@
 #include <utility>
 #include <vector>
 
-#include "runtime/SerialQueue.h"
-
 namespace vantrel::linux {
 
 // One bus: its thread, and at most one transfer on it.
 class BoundedI2C::Lane {
   public:
-    Lane(runtime::Scheduler& scheduler, Bus bus)
-        : scheduler_(scheduler),
-          state_(std::make_shared<State>()),
-          queue_(scheduler, "org.vantrel.i2c-" + std::to_string(bus),
-                 runtime::QualityOfService::userInitiated) {
+    Lane(runtime::Scheduler& scheduler, Bus bus) : scheduler_(scheduler), state_(std::make_shared<State>()) {
+        state_->begun = scheduler.makeGate();
         state_->ended = scheduler.makeGate();
+        scheduler.startServant(
+            "org.vantrel.i2c-" + std::to_string(bus), runtime::QualityOfService::userInitiated,
+            [state = state_] { state->serve(); }, [state = state_] { state->close(); });
     }
+    Lane(const Lane&) = delete;
+    Lane& operator=(const Lane&) = delete;
+    ~Lane() { state_->close(); }
 
     // `transfer` may outlive the call: it owns what it works on.
     int run(std::function<int()> transfer) {
-        std::uint64_t ticket = 0;
         {
             const std::lock_guard lock(state_->mutex);
-            if (state_->isBusy) return EAGAIN;
-            state_->isBusy = true;
-            ticket = ++state_->ticket;
+            if (state_->phase != Phase::free) return EAGAIN;
+            state_->phase = Phase::underWay;
+            state_->transfer = std::move(transfer);
         }
-        queue_.submit([state = state_, transfer = std::move(transfer)] { state->end(transfer()); });
+        state_->begun->open();
         const runtime::MonotonicTime deadline = scheduler_.now() + bound;
         while (true) {
             const runtime::Wake wake = state_->ended->wait(deadline);
             const std::lock_guard lock(state_->mutex);
-            if (!state_->isBusy && state_->ticket == ticket) return state_->result;
-            // What opened the gate may be the end of one that was given up before.
-            if (wake != runtime::Wake::opened) return ETIMEDOUT;
+            if (state_->phase == Phase::ended) {
+                state_->phase = Phase::free;
+                return state_->result;
+            }
+            // What opened the gate may be the end of one that nobody waited for at the gate.
+            if (wake == runtime::Wake::opened) continue;
+            state_->phase = Phase::givenUp;
+            return ETIMEDOUT;
         }
     }
 
+    bool isFree() const {
+        const std::lock_guard lock(state_->mutex);
+        return state_->phase == Phase::free;
+    }
+
   private:
+    // Free again only when its caller has the result, or doesn't want it any more.
+    enum class Phase { free, underWay, ended, givenUp };
+
     struct State {
         std::mutex mutex;
-        bool isBusy = false;
-        // Of the last transfer that began.
-        std::uint64_t ticket = 0;
+        bool isClosed = false;
+        Phase phase = Phase::free;
+        // Until it has begun.
+        std::function<int()> transfer;
         int result = 0;
+        std::unique_ptr<runtime::Gate> begun;
         std::unique_ptr<runtime::Gate> ended;
+
+        // The body of the thread.
+        void serve() {
+            for (;;) {
+                std::unique_lock lock(mutex);
+                const auto next = std::exchange(transfer, nullptr);
+                if (!next && isClosed) return;
+                lock.unlock();
+                if (next) {
+                    end(next());
+                } else {
+                    begun->wait(std::nullopt);
+                }
+            }
+        }
+
+        void close() {
+            {
+                const std::lock_guard lock(mutex);
+                isClosed = true;
+            }
+            begun->open();
+        }
 
         void end(int outcome) {
             const std::lock_guard lock(mutex);
+            if (phase == Phase::givenUp) {
+                phase = Phase::free;
+                return;
+            }
             result = outcome;
-            isBusy = false;
+            phase = Phase::ended;
             ended->open();
         }
     };
 
     runtime::Scheduler& scheduler_;
-    std::shared_ptr<State> state_;
-    runtime::SerialQueue queue_;
+    const std::shared_ptr<State> state_;
 };
 
 void BoundedI2C::keepBuses(const std::set<Bus>& buses) {
     const std::lock_guard lock(mutex_);
-    std::erase_if(lanes_, [&buses](const auto& lane) { return !buses.contains(lane.first); });
-    for (const Bus bus : buses) {
+    kept_ = buses;
+    // One that hangs still does when its bus is kept again.
+    std::erase_if(lanes_,
+                  [this](const auto& lane) { return !kept_.contains(lane.first) && lane.second->isFree(); });
+    for (const Bus bus : kept_) {
         if (!lanes_.contains(bus)) lanes_.emplace(bus, std::make_shared<Lane>(scheduler_, bus));
     }
 }
 
 std::shared_ptr<BoundedI2C::Lane> BoundedI2C::lane(Bus bus) const {
     const std::lock_guard lock(mutex_);
-    const auto found = lanes_.find(bus);
-    return found != lanes_.end() ? found->second : nullptr;
+    return kept_.contains(bus) ? lanes_.at(bus) : nullptr;
 }
 
 int BoundedI2C::write(Bus bus, std::uint8_t address, std::span<const std::uint8_t> bytes) {

@@ -44,6 +44,7 @@ class BoundedI2C : public I2CDevices {
     I2CDevices& devices_;
     runtime::Scheduler& scheduler_;
     mutable std::mutex mutex_;
+    std::set<Bus> kept_;
     std::map<Bus, std::shared_ptr<Lane>> lanes_;
 };
 

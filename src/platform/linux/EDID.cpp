@@ -24,6 +24,11 @@ constexpr std::size_t textAt = 5;
 constexpr std::uint8_t productName = 0xFC;
 constexpr std::uint8_t textEnd = 0x0A;
 
+// A line that nobody pulls down reads as ones, as most of a header does.
+bool isSilence(Bytes bytes) {
+    return std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte == 0xFF; });
+}
+
 bool hasHeader(Bytes bytes) {
     std::ptrdiff_t right = 0;
     for (std::size_t at = 0; at < header.size(); ++at) right += bytes[at] == header.at(at) ? 1 : 0;
@@ -66,6 +71,7 @@ std::optional<std::string> name(Bytes bytes) {
 
 std::optional<EDID> EDID::read(Bytes bytes) {
     if (bytes.size() < identityEnd || !hasHeader(bytes)) return std::nullopt;
+    if (isSilence(bytes.first(identityEnd))) return std::nullopt;
     EDID edid;
     edid.vendor = static_cast<std::uint32_t>(bytes[vendorAt]) << 8 | bytes[vendorAt + 1];
     edid.product = littleEndian(bytes.subspan(productAt, 2));

@@ -34,6 +34,22 @@ class File {
     int descriptor_;
 };
 
+std::optional<std::vector<std::uint8_t>> contents(const std::string& path) {
+    const File file(path, O_RDONLY);
+    if (file.get() < 0) return std::nullopt;
+    std::vector<std::uint8_t> found(largest);
+    std::size_t size = 0;
+    while (size < found.size()) {
+        const ssize_t count = ::read(file.get(), found.data() + size, found.size() - size);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) return std::nullopt;
+        if (count == 0) break;
+        size += static_cast<std::size_t>(count);
+    }
+    found.resize(size);
+    return found;
+}
+
 // "card0-DP-2" before "card0-DP-10".
 bool isBefore(std::string_view left, std::string_view right) {
     constexpr std::string_view digits = "0123456789";
@@ -57,24 +73,15 @@ bool isBefore(std::string_view left, std::string_view right) {
 }  // namespace
 
 std::vector<std::uint8_t> Sysfs::bytes(const std::string& path) const {
-    const File file(root_ + path, O_RDONLY);
-    std::vector<std::uint8_t> found(file.get() >= 0 ? largest : 0);
-    std::size_t size = 0;
-    while (size < found.size()) {
-        const ssize_t count = ::read(file.get(), found.data() + size, found.size() - size);
-        if (count < 0 && errno == EINTR) continue;
-        if (count <= 0) break;
-        size += static_cast<std::size_t>(count);
-    }
-    found.resize(size);
-    return found;
+    return contents(root_ + path).value_or(std::vector<std::uint8_t>());
 }
 
 std::optional<std::string> Sysfs::text(const std::string& path) const {
-    if (!exists(path)) return std::nullopt;
-    const auto found = bytes(path);
-    std::string text(found.begin(), found.end());
-    return text.substr(0, text.find('\n'));
+    const auto found = contents(root_ + path);
+    if (!found) return std::nullopt;
+    std::string text(found->begin(), found->end());
+    if (text.ends_with('\n')) text.pop_back();
+    return text;
 }
 
 std::optional<std::uint64_t> Sysfs::number(const std::string& path) const {

@@ -19,17 +19,28 @@ qos_class_t classOf(runtime::QualityOfService quality) {
     return QOS_CLASS_DEFAULT;
 }
 
+// Only the thread itself can be given either.
+std::function<void()> withNameAndQuality(const std::string& name, runtime::QualityOfService quality,
+                                         std::function<void()> body) {
+    return [shortName = name.substr(0, longestName), quality, body = std::move(body)] {
+        pthread_setname_np(shortName.c_str());
+        pthread_set_qos_class_self_np(classOf(quality), 0);
+        body();
+    };
+}
+
 }  // namespace
 
 void MacScheduler::startThread(std::string name, runtime::QualityOfService quality,
                                std::function<void()> body) {
-    const std::string shortName = name.substr(0, longestName);
-    // Only the thread itself can be given either.
-    inner_.startThread(std::move(name), quality, [shortName, quality, body = std::move(body)] {
-        pthread_setname_np(shortName.c_str());
-        pthread_set_qos_class_self_np(classOf(quality), 0);
-        body();
-    });
+    auto named = withNameAndQuality(name, quality, std::move(body));
+    inner_.startThread(std::move(name), quality, std::move(named));
+}
+
+void MacScheduler::startServant(std::string name, runtime::QualityOfService quality,
+                                std::function<void()> body, std::function<void()> end) {
+    auto named = withNameAndQuality(name, quality, std::move(body));
+    inner_.startServant(std::move(name), quality, std::move(named), std::move(end));
 }
 
 }  // namespace vantrel::macos

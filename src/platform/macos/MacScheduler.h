@@ -17,6 +17,8 @@ class MacScheduler : public runtime::Scheduler {
     std::unique_ptr<runtime::Gate> makeGate() override { return inner_.makeGate(); }
     void startThread(std::string name, runtime::QualityOfService quality,
                      std::function<void()> body) override;
+    void startServant(std::string name, runtime::QualityOfService quality, std::function<void()> body,
+                      std::function<void()> end) override;
     void finishThreads() override { inner_.finishThreads(); }
 
   private:

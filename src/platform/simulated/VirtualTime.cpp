@@ -14,6 +14,8 @@ using runtime::Wake;
 
 struct VirtualTime::Participant {
     std::string name;
+    // Of a servant.
+    std::function<void()> end;
     std::thread thread;
     std::thread::id id;
     std::condition_variable gotBaton;
@@ -87,6 +89,15 @@ void VirtualTime::sleepFor(MonotonicClock::duration duration) {
 std::unique_ptr<runtime::Gate> VirtualTime::makeGate() { return std::make_unique<VirtualGate>(*this); }
 
 void VirtualTime::startThread(std::string name, runtime::QualityOfService, std::function<void()> body) {
+    start(std::move(name), std::move(body), {});
+}
+
+void VirtualTime::startServant(std::string name, runtime::QualityOfService, std::function<void()> body,
+                               std::function<void()> end) {
+    start(std::move(name), std::move(body), std::move(end));
+}
+
+void VirtualTime::start(std::string name, std::function<void()> body, std::function<void()> end) {
     const std::lock_guard lock(mutex_);
     std::erase_if(participants_, [](const auto& participant) {
         if (!participant->hasEnded) return false;
@@ -95,6 +106,7 @@ void VirtualTime::startThread(std::string name, runtime::QualityOfService, std::
     });
     Participant& participant = *participants_.emplace_back(std::make_unique<Participant>());
     participant.name = std::move(name);
+    participant.end = std::move(end);
     makeDue(participant, now_);
     participant.thread = std::thread([this, &participant, body = std::move(body)]() mutable {
         {
@@ -113,8 +125,25 @@ void VirtualTime::startThread(std::string name, runtime::QualityOfService, std::
 
 void VirtualTime::finishThreads() {
     std::unique_lock lock(mutex_);
-    while (participants_.size() > 1) {
-        Participant& last = *participants_.back();
+    finish(lock, [](const Participant& participant) { return !participant.end; });
+    for (const auto& participant : participants_) {
+        if (!participant->end) continue;
+        lock.unlock();
+        participant->end();
+        lock.lock();
+    }
+    finish(lock, [](const Participant&) { return true; });
+}
+
+void VirtualTime::finish(std::unique_lock<std::mutex>& lock,
+                         const std::function<bool(const Participant&)>& isMeant) {
+    const auto isLeft = [this, &isMeant](const auto& participant) {
+        return participant.get() != main_ && isMeant(*participant);
+    };
+    for (;;) {
+        const auto found = std::find_if(participants_.rbegin(), participants_.rend(), isLeft);
+        if (found == participants_.rend()) return;
+        Participant& last = **found;
         if (!last.hasEnded) {
             // Everybody else goes first; idle means that the last one never will.
             main_->wake = Wake::opened;
@@ -125,7 +154,7 @@ void VirtualTime::finishThreads() {
         lock.unlock();
         last.thread.join();
         lock.lock();
-        participants_.pop_back();
+        participants_.remove_if([&last](const auto& participant) { return participant.get() == &last; });
     }
 }
 

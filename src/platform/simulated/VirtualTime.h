@@ -36,18 +36,23 @@ class VirtualTime : public runtime::Scheduler {
     void sleepFor(runtime::MonotonicClock::duration duration) override;
     std::unique_ptr<runtime::Gate> makeGate() override;
     void startThread(std::string name, runtime::QualityOfService, std::function<void()> body) override;
+    void startServant(std::string name, runtime::QualityOfService quality, std::function<void()> body,
+                      std::function<void()> end) override;
     void finishThreads() override;
 
   private:
     class VirtualGate;
     struct Participant;
 
+    void start(std::string name, std::function<void()> body, std::function<void()> end);
     Participant& current();
     // Both need the mutex. A participant with a due time gets the baton then.
     void makeDue(Participant& participant, runtime::MonotonicTime due);
     void handOver();
     // Gives the baton away and returns with it, at the due time.
     void pause(std::unique_lock<std::mutex>& lock, Participant& participant);
+    // Lets everybody run until `isMeant` have all ended, and removes those.
+    void finish(std::unique_lock<std::mutex>& lock, const std::function<bool(const Participant&)>& isMeant);
 
     mutable std::mutex mutex_;
     runtime::MonotonicTime now_{};
