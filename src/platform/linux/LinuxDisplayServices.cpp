@@ -207,7 +207,8 @@ void LinuxDisplayServices::announce() {
         const auto then = before.displays.find(display);
         if (isOnline(display) && !wasOnline(display)) {
             changes.emplace_back(display, addFlag);
-        } else if (then != before.displays.end() && then->second != now) {
+        } else if (isOnline(display) == wasOnline(display) && then != before.displays.end() &&
+                   then->second != now) {
             changes.emplace_back(display, setModeFlag);
         }
     }
