@@ -77,9 +77,13 @@ class FakeDesktop : public Desktop {
     }
     // Whether it takes no darken and light from now on, though it offers them.
     bool refuses = false;
+    // Whether it takes them, but doesn't do them.
+    bool takesOnly = false;
     // Whether no table can be read, or set, from now on.
     bool hidesTables = false;
     bool refusesTables = false;
+    // Whether an output without a picture has no table, as on X11.
+    bool darkHaveNoTables = false;
     bool keeps = true;
     bool switches = true;
     // Happens once, in the middle of the next darken that is taken.
@@ -90,6 +94,7 @@ class FakeDesktop : public Desktop {
 
     std::string name() const override { return "Fake"; }
     std::string identity() const override { return identityText; }
+    bool isThere() override { return !isGone_; }
     std::vector<Output> outputs() override { return isGone_ ? std::vector<Output>() : outputs_; }
 
     std::optional<platform::TransferTable> table(const std::string& output) override {
@@ -102,6 +107,7 @@ class FakeDesktop : public Desktop {
         calls.push_back("table " + output);
         const auto found = tables_.find(output);
         if (isGone_ || refusesTables || found == tables_.end()) return false;
+        if (darkHaveNoTables && !isLit(output)) return false;
         if (found->second.red.size() != table.red.size()) return false;
         found->second = table;
         return true;
@@ -117,6 +123,7 @@ class FakeDesktop : public Desktop {
     bool darken(const std::string& output) override {
         calls.push_back("darken " + output);
         if (isGone_ || refuses || !switches || find(output) == outputs_.end()) return false;
+        if (takesOnly) return true;
         find(output)->place.clear();
         if (const auto event = std::exchange(meanwhile, nullptr)) event();
         set(output, false);
@@ -126,6 +133,7 @@ class FakeDesktop : public Desktop {
         calls.push_back("light " + output + (arrangement ? " " + *arrangement : ""));
         const auto found = find(output);
         if (isGone_ || refuses || !switches || found == outputs_.end() || !found->isConnected) return false;
+        if (takesOnly) return true;
         found->place = arrangement.value_or("preferred");
         set(output, true);
         return true;
@@ -136,6 +144,10 @@ class FakeDesktop : public Desktop {
     std::vector<Output>::iterator find(const std::string& name) {
         return std::find_if(outputs_.begin(), outputs_.end(),
                             [&name](const Output& output) { return output.name == name; });
+    }
+    bool isLit(const std::string& output) {
+        const auto found = find(output);
+        return found != outputs_.end() && found->isLit;
     }
     void set(const std::string& output, bool isLit) {
         find(output)->isLit = isLit;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include "linux/LinuxHardware.h"
 #include "linux/SharedDefaults.h"
@@ -45,12 +46,12 @@ class LinuxBench {
     platform::EnglishLocalizer localizer;
     simulated::SimulatedLoginItem loginItem;
     test::RecordingLogSink log;
-    LinuxPlatform linux{{hardware.sysfs, hardware.devices, hardware.nodes, hardware.events, hardware.session,
-                         hardware.desktop, memory, hardware.guard, defaults, localizer, loginItem},
-                        log,
-                        time,
-                        loop};
-    platform::Platform platform = linux.platform();
+    const LinuxPlatform::Parts parts{hardware.sysfs,   hardware.devices, hardware.nodes, hardware.events,
+                                     hardware.session, hardware.desktop, memory,         hardware.guard,
+                                     defaults,         localizer,        loginItem};
+    // May end before the rest; nothing of `platform` may be used then.
+    std::optional<LinuxPlatform> linux{std::in_place, parts, log, time, loop};
+    platform::Platform platform = linux->platform();
 };
 
 }  // namespace vantrel::linux

@@ -50,6 +50,8 @@ class Desktop {
     // on one of them: "x11-:0". Letters, digits, '-', '_', ':' and '.'.
     virtual std::string identity() const = 0;
 
+    // Whether it hasn't gone. Some desktops have no outputs while no monitor is plugged in.
+    virtual bool isThere() { return !outputs().empty(); }
     // In the desktop's order, connected or not.
     virtual std::vector<Output> outputs() = 0;
 

@@ -11,18 +11,29 @@ GuardDuty::GuardDuty(Desktop& desktop, Session& session, OutputSwitch& outputs, 
 GuardDuty::~GuardDuty() {
     desktop_.onChange({});
     session_.onLid({});
+    if (again_) mainLoop_.cancel(*again_);
 }
 
-bool GuardDuty::isNeeded() { return !outputs_.isIdle() && !desktop_.outputs().empty(); }
+bool GuardDuty::isNeeded() { return !outputs_.isIdle() && desktop_.isThere(); }
 
 void GuardDuty::run() {
-    outputs_.keepLight();
+    keepLight();
     if (isNeeded()) mainLoop_.run();
 }
 
 void GuardDuty::look() {
-    outputs_.keepLight();
+    keepLight();
     if (!isNeeded()) mainLoop_.quit();
+}
+
+void GuardDuty::keepLight() {
+    if (again_) mainLoop_.cancel(*again_);
+    again_.reset();
+    if (outputs_.keepLight()) return;
+    again_ = mainLoop_.after(OutputSwitch::pause, [this] {
+        again_.reset();
+        look();
+    });
 }
 
 }  // namespace vantrel::linux

@@ -3,6 +3,8 @@
 // Threads: main thread. Lifetime: everything given to it outlives it.
 #pragma once
 
+#include <optional>
+
 #include "platform/linux/Desktop.h"
 #include "platform/linux/OutputSwitch.h"
 #include "platform/linux/Session.h"
@@ -24,11 +26,13 @@ class GuardDuty {
 
   private:
     void look();
+    void keepLight();
 
     Desktop& desktop_;
     Session& session_;
     OutputSwitch& outputs_;
     runtime::MainLoop& mainLoop_;
+    std::optional<runtime::MainLoop::TimerID> again_;
 };
 
 }  // namespace vantrel::linux

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cerrno>
-#include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <poll.h>
@@ -14,9 +13,6 @@ extern char** environ;
 
 namespace vantrel::linux {
 namespace {
-
-// For a program to start on a busy computer. Whoever isn't on guard by then is not relied on.
-constexpr std::chrono::milliseconds patience{5000};
 
 class Pipe {
   public:
@@ -57,7 +53,7 @@ pid_t start(std::vector<std::string> command, int output) {
 }
 
 // What comes until the end of `expected`, of the pipe, or of patience.
-std::string read(int descriptor, std::string_view expected) {
+std::string read(int descriptor, std::string_view expected, std::chrono::milliseconds patience) {
     std::string text;
     while (text.size() < expected.size()) {
         pollfd waiting{descriptor, POLLIN, 0};
@@ -80,7 +76,7 @@ bool GuardProcess::post() {
     const pid_t process = start(command_, pipe.writer());
     pipe.closeWriter();
     if (process < 0) return false;
-    const bool isOnGuard = read(pipe.reader(), onGuard) == onGuard;
+    const bool isOnGuard = read(pipe.reader(), onGuard, patience_) == onGuard;
     // The process that was started ends as soon as it has left its own in its place, or failed.
     if (!isOnGuard) ::kill(process, SIGKILL);
     while (::waitpid(process, nullptr, 0) < 0 && errno == EINTR) {

@@ -5,7 +5,9 @@
 // Threads: main thread. Time: posting one takes until it has looked at the desktop.
 #pragma once
 
+#include <chrono>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/linux/OutputGuard.h"
@@ -16,12 +18,18 @@ class GuardProcess : public OutputGuard {
   public:
     static constexpr const char* onGuard = "on guard\n";
 
-    // The program and its arguments.
-    explicit GuardProcess(std::vector<std::string> command) : command_(std::move(command)) {}
+    // For a program to start on a busy computer. Whoever isn't on guard by then is not relied on.
+    static constexpr std::chrono::milliseconds usualPatience{5000};
+
+    // The program and its arguments. Patience begins anew with each piece of what it says.
+    explicit GuardProcess(std::vector<std::string> command,
+                          std::chrono::milliseconds patience = usualPatience)
+        : command_(std::move(command)), patience_(patience) {}
     bool post() override;
 
   private:
-    std::vector<std::string> command_;
+    const std::vector<std::string> command_;
+    const std::chrono::milliseconds patience_;
 };
 
 }  // namespace vantrel::linux

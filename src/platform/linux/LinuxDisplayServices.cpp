@@ -27,13 +27,17 @@ LinuxDisplayServices::LinuxDisplayServices(Parts parts, runtime::MainLoop& mainL
     parts_.events.onChange([this] { expectChanges(); });
     parts_.desktop.onChange([this] { expectChanges(); });
     parts_.session.onLid([this] { expectChanges(); });
+    // A program that crashed may have left the user in the dark.
+    expectChanges();
 }
 
 LinuxDisplayServices::~LinuxDisplayServices() {
     parts_.events.onChange({});
     parts_.desktop.onChange({});
     parts_.session.onLid({});
-    if (expected_) mainLoop_.cancel(*expected_);
+    for (const auto& timer : {expected_, again_}) {
+        if (timer) mainLoop_.cancel(*timer);
+    }
 }
 
 const LinuxDisplayServices::Look& LinuxDisplayServices::look() {
@@ -175,8 +179,18 @@ void LinuxDisplayServices::expectChanges() {
     if (expected_) return;
     expected_ = mainLoop_.post([this] {
         expected_.reset();
-        parts_.outputs.keepLight();
+        keepLight();
         announce();
+    });
+}
+
+void LinuxDisplayServices::keepLight() {
+    if (again_) mainLoop_.cancel(*again_);
+    again_.reset();
+    if (parts_.outputs.keepLight()) return;
+    again_ = mainLoop_.after(OutputSwitch::pause, [this] {
+        again_.reset();
+        expectChanges();
     });
 }
 
@@ -193,7 +207,8 @@ void LinuxDisplayServices::announce() {
         const auto then = before.displays.find(display);
         if (isOnline(display) && !wasOnline(display)) {
             changes.emplace_back(display, addFlag);
-        } else if (then != before.displays.end() && then->second != now) {
+        } else if (isOnline(display) == wasOnline(display) && then != before.displays.end() &&
+                   then->second != now) {
             changes.emplace_back(display, setModeFlag);
         }
     }

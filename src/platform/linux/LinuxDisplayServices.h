@@ -91,6 +91,7 @@ class LinuxDisplayServices : public platform::DisplayServices {
 
     // Something may have changed: looks once for many words of it, and tells what has.
     void expectChanges();
+    void keepLight();
     void announce();
     void call(platform::DisplayID display, std::uint32_t flags);
 
@@ -100,6 +101,7 @@ class LinuxDisplayServices : public platform::DisplayServices {
     // What the callbacks were told last.
     Look told_;
     std::optional<runtime::MainLoop::TimerID> expected_;
+    std::optional<runtime::MainLoop::TimerID> again_;
     std::list<Changes> configurations_;
     std::vector<ReconfigurationCallback> callbacks_;
 };

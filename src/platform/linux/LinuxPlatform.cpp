@@ -21,7 +21,9 @@ LinuxPlatform::LinuxPlatform(const Parts& parts, platform::LogSink& sink, runtim
                  parts.desktop.canSwitch() ? LinuxLibraries::Switching::possible
                                            : LinuxLibraries::Switching::missing),
       workspace_(parts.session),
-      obstacles_(inventory_, displays_, answers_, parts.nodes, parts.desktop) {}
+      obstacles_(inventory_, displays_, answers_, parts.nodes, parts.desktop) {
+    outputs_.takeOver();
+}
 
 LinuxPlatform::~LinuxPlatform() { tables_.restoreOwn(); }
 

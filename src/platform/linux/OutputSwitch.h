@@ -9,6 +9,8 @@
 // Threads: main thread. Lifetime: everything given to it outlives it.
 #pragma once
 
+#include <chrono>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -22,6 +24,10 @@ namespace vantrel::linux {
 
 class OutputSwitch {
   public:
+    // Before another try where the desktop refused the light: soon enough for somebody in
+    // the dark, rare enough for a desktop that is busy.
+    static constexpr std::chrono::seconds pause{1};
+
     // Without a guard nothing is turned off; the guard itself needs none.
     OutputSwitch(Desktop& desktop, Session& session, SessionMemory& memory, OutputGuard* guard,
                  platform::Log log);
@@ -32,13 +38,20 @@ class OutputSwitch {
     bool darken(const std::string& output);
     bool light(const std::string& output);
 
+    // To be called when a program starts: what an earlier one turned off, which has crashed
+    // since, perhaps together with its guard, is guarded again.
+    void takeOver();
     // To be called whenever outputs or lid may have changed: lights what was turned off
-    // if nothing else can be seen, and forgets what has been lit by others.
-    void keepLight();
+    // if nothing else can be seen, and forgets what has been lit by others. False when that
+    // failed: nothing can be seen, and another try may help.
+    bool keepLight();
     // Whether nothing is turned off any more that needs to be guarded.
     bool isIdle() const { return memory_.darkened().empty(); }
 
   private:
+    // Note and guard; neither when there is no guard.
+    bool prepare(const std::string& output, const Desktop::Arrangement& arrangement);
+    void forgetLit(const SessionMemory::Notes& darkened, const std::vector<Desktop::Output>& outputs);
     bool canBeSeen(const Desktop::Output& output);
     bool canAnyBeSeen(const std::vector<Desktop::Output>& outputs, const std::string& except = {});
     void log(platform::LogLevel level, const std::string& message) const;
@@ -48,6 +61,9 @@ class OutputSwitch {
     SessionMemory& memory_;
     OutputGuard* guard_;
     platform::Log log_;
+    // What was noted and dark at the last look. The guard may find an output lit that the
+    // program has noted and is just about to turn off: not to be forgotten.
+    std::set<std::string> seenDark_;
 };
 
 }  // namespace vantrel::linux

@@ -43,32 +43,45 @@ std::optional<TransferTable> read(const std::string& text) {
 
 }  // namespace
 
+std::optional<TransferTable> TransferTables::first(const std::string& output) const {
+    if (const auto found = found_.find(output); found != found_.end()) return found->second;
+    const auto notes = memory_.tables();
+    const auto note = notes.find(output);
+    return note != notes.end() ? read(note->second) : std::nullopt;
+}
+
 void TransferTables::set(const std::string& output, const TransferTable& table) {
-    if (!found_.contains(output)) {
+    const auto first = this->first(output);
+    // One of another length can't be had back either.
+    if (!first || first->red.size() != table.red.size()) {
         const auto found = desktop_.table(output);
         // What can't be had back isn't given away.
-        if (!found) return;
+        if (!found || found->red.size() != table.red.size()) return;
         if (desktop_.keepsTables()) memory_.noteTable(output, written(*found));
-        found_.emplace(output, *found);
+        found_.insert_or_assign(output, *found);
     }
     desktop_.setTable(output, table);
 }
 
 void TransferTables::restore() {
+    // What a program noted that ended without restoring it is this one's to restore.
     for (const auto& [output, text] : memory_.tables()) {
-        if (found_.contains(output)) continue;
-        if (const auto table = read(text)) desktop_.setTable(output, *table);
-        memory_.forgetTable(output);
+        if (auto table = read(text)) {
+            found_.emplace(output, *std::move(table));
+        } else {
+            memory_.forgetTable(output);
+        }
     }
     restoreOwn();
 }
 
 void TransferTables::restoreOwn() {
-    for (const auto& [output, table] : found_) {
-        desktop_.setTable(output, table);
-        if (desktop_.keepsTables()) memory_.forgetTable(output);
-    }
-    found_.clear();
+    std::erase_if(found_, [this](const auto& item) {
+        // Who can't have it now may have it later.
+        if (!desktop_.setTable(item.first, item.second)) return false;
+        memory_.forgetTable(item.first);
+        return true;
+    });
 }
 
 }  // namespace vantrel::linux

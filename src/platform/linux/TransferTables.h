@@ -20,12 +20,15 @@ class TransferTables {
     std::optional<platform::TransferTable> table(const std::string& output) { return desktop_.table(output); }
     void set(const std::string& output, const platform::TransferTable& table);
     // Gives every output back what it had before this program set it, or one that ended
-    // without a word.
+    // without a word; one that has no table at the moment, the next time.
     void restore();
     // Gives those back that this program set: what is noted besides may be another's that runs.
     void restoreOwn();
 
   private:
+    // What the output had before the first table was set, by this program or an earlier one.
+    std::optional<platform::TransferTable> first(const std::string& output) const;
+
     Desktop& desktop_;
     SessionMemory& memory_;
     // What each output that was set had before.
