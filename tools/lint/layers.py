@@ -1,9 +1,9 @@
 """Includes agree with the rooms' LINKS lists in src/CMakeLists.txt.
 
 A room may include itself and what it links, directly or through another room.
-Only src/app and the tests may name an implementation of the platform, only the
-room that draws with a toolkit may name that toolkit, and only the Mac's own rooms
-name what is the Mac's."""
+Only src/app and the tests may name an implementation of the platform (which may
+have rooms below it), only the room that draws with a toolkit may name that toolkit,
+and only the Mac's own rooms name what is the Mac's."""
 
 import posixpath
 import re
@@ -26,12 +26,16 @@ TOOLKITS = {
     **{header: ("src/platform/linux",) for header in ("libudev.h", "linux/", "sys/epoll.h", "systemd/")},
 }
 
-# What a library of the system is included as, and what has to be linked for it.
+# What a library of the system is included as, and what has to be linked for it: one
+# of several, if there are several. The longer beginning of two comes first.
 LIBRARIES = {
     "nlohmann/": "nlohmann_json::nlohmann_json",
     "CLI/": "CLI11::CLI11",
     "utf8proc.h": "PkgConfig::utf8proc",
-    "xcb/": "PkgConfig::xcb",
+    "xcb/randr.h": "PkgConfig::xcb_randr",
+    "xcb/": ("PkgConfig::xcb", "PkgConfig::xcb_randr"),
+    "systemd/": "PkgConfig::systemd",
+    "libudev.h": "PkgConfig::udev",
     "QSvg": "Qt6::Svg",
     "QDBus": "Qt6::DBus",
     "Q": "Qt6::Widgets",
@@ -96,18 +100,25 @@ def check(tree):
 
 def _objection(header, is_angled, room, allowed, room_of, folder):
     owners = next((homes for prefix, homes in TOOLKITS.items() if is_angled and header.startswith(prefix)), (folder,))
-    if folder not in owners:
+    if not _within(folder, owners):
         return f"only {' and '.join(owners)} may include <{header}>"
     library = next((target for prefix, target in LIBRARIES.items() if header.startswith(prefix)), "")
     if library != "":
-        return "" if library in allowed else f"{room} does not link what <{header}> belongs to"
+        libraries = library if isinstance(library, tuple) else (library,)
+        return "" if allowed.intersection(libraries) else f"{room} does not link what <{header}> belongs to"
     if is_angled:
         return ""
     target = "src/" + posixpath.dirname(header)
     if target not in room_of:
         return f'"{header}" is in no room; include as "room/Type.h"'
-    if target in IMPLEMENTATIONS and folder not in (target, APPLICATION):
+    implementation = _within(target, IMPLEMENTATIONS)
+    if implementation and folder != APPLICATION and _within(folder, IMPLEMENTATIONS) != implementation:
         return f"only src/app and the tests may name an implementation of the platform: {target}"
     if room_of[target] not in allowed:
         return f'{room} may not include "{header}": it does not link {room_of[target]}'
     return ""
+
+
+def _within(folder, rooms):
+    """The one of the rooms that a folder is, or lies below."""
+    return next((room for room in rooms if folder == room or folder.startswith(room + "/")), "")
