@@ -19,6 +19,7 @@
 #include "platform/posix/FileDefaults.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/StateFolder.h"
+#include "runtime/RealScheduler.h"
 
 namespace vantrel::app {
 namespace {
@@ -51,7 +52,8 @@ class LinuxComputer : public Computer {
         memory_ = std::make_unique<linux::SessionMemory>(desk_.memory(log));
         platform_ = std::make_unique<linux::LinuxPlatform>(
             linux::LinuxPlatform::Parts{sysfs_, devices_, nodes_, events_, desk_.session(), desk_.desktop(),
-                                        *memory_, guard_, *defaults_, localizer_, *loginItem_},
+                                        *memory_, guard_, *defaults_, localizer_, *loginItem_,
+                                        &busScheduler_},
             log, scheduler_, mainLoop_);
         return platform_->platform();
     }
@@ -71,6 +73,8 @@ class LinuxComputer : public Computer {
     std::unique_ptr<platform::Defaults> defaults_;
     std::unique_ptr<platform::LoginItem> loginItem_;
     std::unique_ptr<linux::SessionMemory> memory_;
+    // Its threads end when the platform has gone.
+    runtime::RealScheduler busScheduler_;
     std::unique_ptr<linux::LinuxPlatform> platform_;
 };
 

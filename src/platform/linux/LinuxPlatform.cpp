@@ -8,7 +8,7 @@ LinuxPlatform::LinuxPlatform(const Parts& parts, platform::LogSink& sink, runtim
       log_(sink),
       scheduler_(scheduler),
       mainLoop_(mainLoop),
-      buses_(parts.devices, scheduler),
+      buses_(parts.devices, parts.busScheduler != nullptr ? *parts.busScheduler : scheduler),
       inventory_(parts.sysfs, buses_),
       services_(inventory_, buses_, answers_),
       registry_(inventory_, services_),

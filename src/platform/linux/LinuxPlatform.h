@@ -46,6 +46,10 @@ class LinuxPlatform {
         platform::Defaults& defaults;
         platform::Localizer& localizer;
         platform::LoginItem& loginItem;
+        // Whose threads wait for the buses; null: the platform's own scheduler. One apart
+        // lets what was set last reach its monitor: finishThreads() waits for the threads
+        // that send it, which need the buses' until they are done.
+        runtime::Scheduler* busScheduler = nullptr;
     };
 
     LinuxPlatform(const Parts& parts, platform::LogSink& sink, runtime::Scheduler& scheduler,
