@@ -131,17 +131,21 @@ class Checks(unittest.TestCase):
         self.assertTrue(unload())
         self.assertEqual(nodes(), {})
 
+    def probe_and_meanwhile(self, happening):
+        """Lets something happen after the first value that the program prints."""
+        with subprocess.Popen(probe.command(vantrel), stdout=subprocess.PIPE, text=True) as process:
+            report = ""
+            for line in process.stdout:
+                report += line
+                if line.startswith("VCP 0x10"):
+                    happening()
+                    break
+            report += process.stdout.read()
+        self.assertEqual(process.returncode, 0)
+        return probe.probed(report)
+
     def test_buses_vanish_under_the_program_and_it_ends_as_always(self):
-        process = subprocess.Popen(probe.command(vantrel), stdout=subprocess.PIPE, text=True)
-        report = ""
-        for line in process.stdout:
-            report += line
-            if line.startswith("VCP 0x10"):
-                unload_soon()
-                break
-        report += process.stdout.read()
-        self.assertEqual(process.wait(), 0)
-        first, *others = probe.probed(report)
+        first, *others = self.probe_and_meanwhile(unload_soon)
         self.assertEqual(first.values[0x10], VALUES[0x10])
         self.assertIsNone(first.values[0x62])
         for monitor in others:
@@ -149,27 +153,26 @@ class Checks(unittest.TestCase):
 
     def test_transfers_that_nobody_acknowledges_are_made_again(self):
         failures = pathlib.Path("/sys/module/vantrel_monitors/parameters/fail_next")
-        failures.write_text("3")
-        self.assertEqual([monitor.values for monitor in self.probe()], [VALUES, VALUES])
+        found = self.probe_and_meanwhile(lambda: failures.write_text("3"))
+        self.assertEqual([monitor.values for monitor in found], [VALUES, VALUES])
         self.assertEqual(failures.read_text().strip(), "0")
 
     def test_udev_tells_of_buses_that_go_and_come(self):
-        listener = subprocess.Popen(["udevadm", "monitor", "--udev", "--subsystem-match=i2c-dev"],
-                                    stdout=subprocess.PIPE, text=True)
-        # It says three lines before it listens.
-        for line in listener.stdout:
-            if line.startswith("UDEV - "):
-                break
-        unload()
-        load()
         told = []
-        for line in listener.stdout:
-            if line.startswith("UDEV "):
-                told.append((line.split()[2], line.split()[3].rsplit("/", 1)[-1]))
-            if len(told) == 4:
-                break
-        listener.terminate()
-        listener.wait()
+        with subprocess.Popen(["udevadm", "monitor", "--udev", "--subsystem-match=i2c-dev"],
+                              stdout=subprocess.PIPE, text=True) as listener:
+            # It listens when it has said so.
+            for line in listener.stdout:
+                if line.startswith("UDEV - "):
+                    break
+            unload()
+            load()
+            for line in listener.stdout:
+                if line.startswith("UDEV "):
+                    told.append((line.split()[2], line.split()[3].rsplit("/", 1)[-1]))
+                if len(told) == 2 * len(nodes()):
+                    break
+            listener.terminate()
         names = [pathlib.Path(node).name for node in nodes().values()]
         self.assertEqual(sorted(told), sorted((action, name) for action in ("add", "remove") for name in names))
 
