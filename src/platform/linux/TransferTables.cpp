@@ -51,15 +51,15 @@ std::optional<TransferTable> TransferTables::first(const std::string& output) co
 }
 
 void TransferTables::set(const std::string& output, const TransferTable& table) {
-    const auto first = this->first(output);
+    auto first = this->first(output);
     // One of another length can't be had back either.
     if (!first || first->red.size() != table.red.size()) {
-        const auto found = desktop_.table(output);
+        first = desktop_.table(output);
         // What can't be had back isn't given away.
-        if (!found || found->red.size() != table.red.size()) return;
-        if (desktop_.keepsTables()) memory_.noteTable(output, written(*found));
-        found_.insert_or_assign(output, *found);
+        if (!first || first->red.size() != table.red.size()) return;
+        if (desktop_.keepsTables()) memory_.noteTable(output, written(*first));
     }
+    found_.insert_or_assign(output, *std::move(first));
     desktop_.setTable(output, table);
 }
 

@@ -1,4 +1,5 @@
-"""An independent program agrees with the desks, over the system's own I2C interface.
+"""An independent program and Vantrel agree with the desks, and so with each other, over
+the system's own I2C interface.
 
     ddcutil_test.py EMULATED_DESK VANTREL DESKS [TEST...]
 
@@ -14,6 +15,7 @@ import sys
 import unittest
 
 import ddcutil
+import probe
 from desk import INPUT, Desk
 from session import Computer
 
@@ -21,6 +23,8 @@ emulated_desk, vantrel, desks = None, None, None
 
 # Settings whose other values mean nothing but a picture and a sound.
 SETTINGS = (0x10, 0x12, 0x14, 0x16, 0x18, 0x1A, 0x60, 0x62, 0x87, 0xDC)
+# What the program's report has.
+PROBED = (0x10, 0x12, 0x60, 0x62)
 SIDE_BY_SIDE = 8
 
 
@@ -106,6 +110,23 @@ class WellBehaved:
                              {code: reading & 0xFF for code, reading in self.readings(display, other).items()})
             self.assertEqual({int(code, 16): value for code, value in back.displays[display.id]["values"].items()},
                              {code: value.current for code, value in display.values().items()})
+
+    def test_vantrel_reads_the_same(self):
+        outcome = self.computer.run(probe.command(vantrel))
+        self.assertEqual(outcome.status, 0)
+        self.assertEqual(outcome.stray_writes, 0)
+        reports = probe.probed(outcome.output)
+        self.assertEqual(sorted((report.edid, report.serial) for report in reports),
+                         sorted((probe.edid(display), display.serial) for display in self.displays
+                                if not display.is_built_in))
+        # Equal monitors are told apart by nothing that the report has.
+        found = [(report.edid, report.serial, sorted(report.values.items()), report.capabilities)
+                 for report in reports]
+        for display in self.well_behaved():
+            values = [(code, display.values().get(code)) for code in PROBED]
+            expected = (probe.edid(display), display.serial, values, display.capabilities)
+            self.assertIn(expected, found)
+            found.remove(expected)
 
     def usual_values(self, display):
         """As they are written."""

@@ -9,6 +9,8 @@ import tempfile
 from typing import NamedTuple
 
 WRAPPER = "umockdev-wrapper"
+# Only a program that hangs takes so long.
+SECONDS_AT_MOST = "100"
 
 
 class Outcome(NamedTuple):
@@ -35,7 +37,8 @@ class Computer:
         script = "; ".join(shlex.join(map(str, command)) for command in commands)
         with tempfile.TemporaryDirectory(dir=_fast_folder()) as folder:
             report = pathlib.Path(folder, "report.json")
-            command = [WRAPPER, self._emulated_desk, "--report", report, self.desk.path, "--", "sh", "-c", script]
+            command = [WRAPPER, self._emulated_desk, "--report", report, self.desk.path, "--",
+                       "timeout", SECONDS_AT_MOST, "sh", "-c", script]
             # Nothing that an earlier run has learned.
             environment = os.environ | {"HOME": folder, "XDG_CACHE_HOME": folder, "XDG_CONFIG_HOME": folder,
                                         "XDG_DATA_HOME": folder, "TMPDIR": folder}
