@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 #include <gtest/gtest.h>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -24,6 +25,35 @@ using runtime::MonotonicTime;
 
 constexpr std::uint8_t address = 0x37;
 constexpr std::uint8_t otherAddress = 0x38;
+
+// Virtual time whose gates say that the deadline came before the opening whenever both are
+// there at once, as it can happen in real time: the opening is left for the next wait.
+class LateTime : public simulated::VirtualTime {
+  public:
+    std::unique_ptr<runtime::Gate> makeGate() override {
+        return std::make_unique<LateGate>(VirtualTime::makeGate(), isLate);
+    }
+    // Whether it happens at each wait with a deadline.
+    bool isLate = false;
+
+  private:
+    class LateGate : public runtime::Gate {
+      public:
+        LateGate(std::unique_ptr<runtime::Gate> inner, const bool& isLate)
+            : inner_(std::move(inner)), isLate_(isLate) {}
+        void open() override { inner_->open(); }
+        runtime::Wake wait(std::optional<MonotonicTime> deadline) override {
+            const runtime::Wake wake = inner_->wait(deadline);
+            if (!isLate_ || !deadline || wake != runtime::Wake::opened) return wake;
+            inner_->open();
+            return runtime::Wake::deadline;
+        }
+
+      private:
+        const std::unique_ptr<runtime::Gate> inner_;
+        const bool& isLate_;
+    };
+};
 
 class BoundedI2CTest : public testing::Test {
   protected:
@@ -57,7 +87,7 @@ class BoundedI2CTest : public testing::Test {
         time.startThread(name, runtime::QualityOfService::userInitiated, body);
     }
 
-    simulated::VirtualTime time;
+    LateTime time;
     FakeI2C devices{time};
     std::vector<Bytes> written;
     BoundedI2C buses{devices, time};
@@ -213,6 +243,15 @@ TEST_F(BoundedI2CTest, TellsTheNextCallerNothingOfAResultThatCameTooLate) {
     EXPECT_EQ(time.now() - begin, 700ms) << "not ended by what came too late";
     devices.fail(4, 0);
     EXPECT_EQ(read(4, otherAddress), std::pair(0, Bytes(3, 0x14)));
+}
+
+TEST_F(BoundedI2CTest, TakesAResultThatComesJustAsItGivesUpAndTheNextOneInItsTime) {
+    time.isLate = true;
+    EXPECT_EQ(read(), std::pair(0, Bytes(3, 0x04)));
+    time.isLate = false;
+    devices.delay(4, 700ms);
+    EXPECT_EQ(read(4, otherAddress), std::pair(0, Bytes(3, 0x14)));
+    EXPECT_EQ(time.now() - start, 700ms);
 }
 
 TEST_F(BoundedI2CTest, GivesUpAgainAndAgain) {

@@ -131,12 +131,18 @@ TEST_F(InventoryTest, GivesTheSameIdentifierWhateverTheCardAndTheBusAreNumbered)
 }
 
 TEST_F(InventoryTest, TellsEqualMonitorsApartByTheirSockets) {
+    std::set<platform::DisplayID> alone;
+    std::set<platform::DisplayID> together;
     for (const char* entry : {"card0-DP-1", "card0-DP-2", "card1-DP-1"}) {
         tree.addConnector(entry);
         plug(entry, twin);
+        alone.insert(idOf(entry));
+        unplug(entry);
     }
-    const std::set<platform::DisplayID> ids{idOf("card0-DP-1"), idOf("card0-DP-2"), idOf("card1-DP-1")};
-    EXPECT_EQ(ids.size(), 3);
+    for (const char* entry : {"card0-DP-1", "card0-DP-2", "card1-DP-1"}) plug(entry, twin);
+    for (const char* entry : {"card0-DP-1", "card0-DP-2", "card1-DP-1"}) together.insert(idOf(entry));
+    EXPECT_EQ(alone.size(), 3);
+    EXPECT_EQ(together, alone);
 }
 
 TEST_F(InventoryTest, GivesEachMonitorOnASocketAnIdentifierOfItsOwn) {

@@ -69,8 +69,8 @@ class BoundedI2C::Lane {
         void serve() {
             for (;;) {
                 std::unique_lock lock(mutex);
+                if (isClosed) return;
                 const auto next = std::exchange(transfer, nullptr);
-                if (!next && isClosed) return;
                 lock.unlock();
                 if (next) {
                     end(next());
