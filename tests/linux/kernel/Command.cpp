@@ -14,6 +14,7 @@ namespace vantrel::test {
 Command::Command(std::vector<std::string> words, runtime::MainLoop& mainLoop,
                  linux::Descriptors& descriptors) {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
     // Ctrl-C is for the program; this one has to clean up after it.
