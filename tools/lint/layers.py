@@ -12,7 +12,8 @@ import cpp
 from tree import Finding
 
 ROOMS = "src/CMakeLists.txt"
-# The room that chooses the implementation of the platform, and the implementations.
+# The room that chooses the implementation of the platform, and the implementations, with
+# whatever is below them.
 APPLICATION = "src/app"
 IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix", "src/platform/macos", "src/platform/linux")
 
@@ -23,7 +24,9 @@ TOOLKITS = {
     **{header: _MACOS for header in (
         "AppKit/", "CoreFoundation/", "CoreGraphics/", "Foundation/", "IOKit/", "ServiceManagement/", "dispatch/",
         "dlfcn.h", "mach/", "objc/", "os/", "pthread/")},
-    **{header: ("src/platform/linux",) for header in ("libudev.h", "linux/", "sys/epoll.h", "systemd/")},
+    **{header: ("src/platform/linux",) for header in ("libudev.h", "linux/", "sys/epoll.h", "sys/eventfd.h")},
+    "systemd/": ("src/platform/linux", "src/platform/linux/mutter"),
+    "wayland-": ("src/platform/linux/wayland",),
 }
 
 # What a library of the system is included as, and what has to be linked for it.
@@ -32,6 +35,7 @@ LIBRARIES = {
     "CLI/": "CLI11::CLI11",
     "utf8proc.h": "PkgConfig::utf8proc",
     "xcb/": "PkgConfig::xcb",
+    "wayland-": "PkgConfig::wayland-client",
     "QSvg": "Qt6::Svg",
     "QDBus": "Qt6::DBus",
     "Q": "Qt6::Widgets",
@@ -106,8 +110,13 @@ def _objection(header, is_angled, room, allowed, room_of, folder):
     target = "src/" + posixpath.dirname(header)
     if target not in room_of:
         return f'"{header}" is in no room; include as "room/Type.h"'
-    if target in IMPLEMENTATIONS and folder not in (target, APPLICATION):
+    is_implementation = any(_is_in(target, implementation) for implementation in IMPLEMENTATIONS)
+    if is_implementation and folder != APPLICATION and not _is_in(folder, target):
         return f"only src/app and the tests may name an implementation of the platform: {target}"
     if room_of[target] not in allowed:
         return f'{room} may not include "{header}": it does not link {room_of[target]}'
     return ""
+
+
+def _is_in(folder, outer):
+    return folder == outer or folder.startswith(outer + "/")
