@@ -42,6 +42,7 @@ void KDEOutputManagement::add(std::uint32_t number, Proxy<kde_output_device_v2> 
 
 std::vector<Head> KDEOutputManagement::heads() const {
     std::vector<Head> heads;
+    heads.reserve(devices_.size());
     for (const auto& [number, device] : devices_) heads.push_back(device.head());
     return heads;
 }

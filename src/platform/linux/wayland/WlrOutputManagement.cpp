@@ -57,6 +57,7 @@ WlrOutputManagement::WlrOutputManagement(Connection& connection, Proxy<zwlr_outp
 
 std::vector<Head> WlrOutputManagement::heads() const {
     std::vector<Head> heads;
+    heads.reserve(heads_.size());
     for (const auto& head : heads_) heads.push_back(head->head());
     return heads;
 }
