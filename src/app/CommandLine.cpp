@@ -85,6 +85,7 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
     parser.set_version_flag("--version", std::string("vantrel ") + version, "Print the version and exit");
     parser.set_help_flag("--help", "Print this help and exit");
     parser.add_flag("--probe", line.probe, "Print what every external monitor answers over DDC/CI, and exit");
+    parser.add_flag(CommandLine::guardOutputs, line.guard)->group("");
     const CLI::Option* simulateOption =
         parser
             .add_option(

@@ -30,6 +30,10 @@ struct CommandLine {
     // Parses a capabilities string: from this file, or from standard input when empty.
     std::optional<std::string> parseCapabilities;
 
+    // Not for people: what the program starts to be its own guard.
+    static constexpr const char* guardOutputs = "--guard-outputs";
+    bool guard = false;
+
     // A text to print instead of doing anything: the help, or the version.
     struct Text {
         std::string text;

@@ -1,6 +1,7 @@
 // A Mac.
 #include <utility>
 
+#include "app/ExitStatus.h"
 #include "app/ThisComputer.h"
 #include "platform/macos/MacPlatform.h"
 
@@ -24,6 +25,8 @@ class MacComputer : public Computer {
 std::unique_ptr<Computer> ThisComputer::make(runtime::Scheduler& scheduler, runtime::MainLoop& mainLoop) {
     return std::make_unique<MacComputer>(scheduler, mainLoop);
 }
+
+int ThisComputer::guardOutputs() { return ExitStatus::nothing; }
 
 bool ThisComputer::isKnown() { return true; }
 

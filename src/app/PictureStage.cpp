@@ -29,7 +29,7 @@ std::unique_ptr<ui::Component> componentOf(PictureStage::Subject subject,
 
 platform::Platform withLocalizer(const platform::Platform& all, platform::Localizer& localizer) {
     return {all.scheduler, all.mainLoop,  all.displays, all.registry,  all.functions, all.baseTables,
-            all.defaults,  all.workspace, localizer,    all.loginItem, all.log};
+            all.defaults,  all.workspace, localizer,    all.loginItem, all.obstacles, all.log};
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 #include "app/ExitStatus.h"
 #include "app/PictureStage.h"
 #include "model/ControlMode.h"
-#include "platform/simulated/EnglishLocalizer.h"
+#include "platform/EnglishLocalizer.h"
 #include "platform/simulated/ShippedDesks.h"
 
 namespace vantrel::app {
@@ -103,7 +103,7 @@ int Pictures::draw(const std::string& folder, std::ostream& output, std::ostream
         errors << "vantrel: can't make the folder " << folder << ": " << error.message() << "\n";
         return ExitStatus::mistake;
     }
-    simulated::EnglishLocalizer english;
+    platform::EnglishLocalizer english;
     for (const Scene& scene : scenes) {
         for (const bool isDark : {false, true}) {
             qt::PictureView::use(isDark ? qt::Scheme::dark : qt::Scheme::light);

@@ -13,4 +13,8 @@ std::unique_ptr<Computer> make(runtime::Scheduler& scheduler, runtime::MainLoop&
 // Whether make() gives one.
 bool isKnown();
 
+// Runs as the process that keeps a light on the desktop while outputs are turned off;
+// gives the exit status. Where the system does that by itself there is nothing to do.
+int guardOutputs();
+
 }  // namespace vantrel::app::ThisComputer

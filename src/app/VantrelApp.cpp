@@ -73,7 +73,7 @@ Found<Place> findPlace(const CommandLine& line) {
         return std::get<simulated::Desk>(std::move(desk));
     }
     if (ThisComputer::isKnown()) return Place();
-    return "this build can't reach real monitors yet; use --simulate for a simulated desk (see --help)";
+    return "this build can't reach real monitors; use --simulate for a simulated desk (see --help)";
 }
 
 std::unique_ptr<runtime::Scheduler> makeScheduler(const CommandLine& line) {
@@ -106,6 +106,7 @@ int VantrelApp::run(const std::vector<std::string>& arguments) {
 }
 
 int VantrelApp::run(const CommandLine& line) {
+    if (line.guard) return ThisComputer::guardOutputs();
     if (line.probe) return runProbe(line);
     if (line.play) return runStory(line);
     if (line.parseCapabilities) return parseCapabilities(*line.parseCapabilities);

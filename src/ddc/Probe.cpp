@@ -95,6 +95,9 @@ void run(platform::Platform& platform, std::ostream& output) {
         if (match == matches.end() || profile == nullptr) continue;
         printProfile(*profile, channels.at(match->second.service.get()), platform.localizer, output);
     }
+    for (const text::Text& obstacle : platform.obstacles.find()) {
+        output << platform.localizer.shown(obstacle) << std::endl;
+    }
 }
 
 }  // namespace vantrel::ddc::Probe

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <set>
 
 #include "persistence/Store.h"
 #include "runtime/Fatal.h"
@@ -21,10 +20,6 @@ namespace {
 
 // One reconfiguration calls back many times, once for every display and phase.
 constexpr auto quietTime = 600ms;
-
-runtime::Task<> loadKeepingAlive(std::shared_ptr<ExternalDisplay> display) {
-    co_await display->load(ExternalDisplay::Capabilities::cachedIfAny);
-}
 
 bool contains(const std::vector<platform::DisplayID>& ids, platform::DisplayID id) {
     return std::ranges::find(ids, id) != ids.end();
@@ -102,6 +97,7 @@ void DisplayManager::refresh() {
 
     logRefresh(online, matches.size());
     reapplyDimmers();
+    noteObstacles();
 }
 
 void DisplayManager::updateBuiltIn(const std::vector<DisplayID>& online) {
@@ -170,7 +166,7 @@ DisplayManager::Display DisplayManager::modelFor(DisplayID id, std::optional<std
     std::optional<ddc::AVServiceLocator::Entry> service;
     if (isMatched) service = match->second;
     auto made = std::make_shared<ExternalDisplay>(platform_, id, std::move(service), std::move(name));
-    tasks_.start(loadKeepingAlive(made));
+    tasks_.start(load(made));
     return made;
 }
 
@@ -192,8 +188,29 @@ void DisplayManager::reapplyDimmers() {
 void DisplayManager::forget(const DisabledDisplay& entry) { removeDisabled(entry.id); }
 
 void DisplayManager::loadAll() {
-    for (const Display& display : externals()) tasks_.start(loadKeepingAlive(display));
-    for (const auto& [id, display] : offline()) tasks_.start(loadKeepingAlive(display));
+    for (const Display& display : externals()) tasks_.start(load(display));
+    for (const auto& [id, display] : offline()) tasks_.start(load(display));
+}
+
+// The parameter keeps the display alive for as long.
+runtime::Task<> DisplayManager::load(Display display) {
+    co_await display->load(ExternalDisplay::Capabilities::cachedIfAny);
+    // A monitor that nobody has asked anything can't be said not to answer.
+    noteObstacles();
+}
+
+void DisplayManager::noteObstacles() {
+    std::vector<std::string> obstacles;
+    for (const text::Text& text : platform_.obstacles.find()) {
+        std::string shown = platform_.localizer.shown(text);
+        if (!dismissedObstacles_.contains(shown)) obstacles.push_back(std::move(shown));
+    }
+    obstacles_.set(std::move(obstacles));
+}
+
+void DisplayManager::dismissObstacle(const std::string& obstacle) {
+    dismissedObstacles_.insert(obstacle);
+    noteObstacles();
 }
 
 DisplayManager::Display DisplayManager::known(DisplayID id) const {

@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,10 @@ class DisplayManager {
     const std::vector<DisabledDisplay>& disabled() const { return disabled_.get(); }
     const std::optional<std::string>& lastError() const { return lastError_.get(); }
     void clearLastError() { lastError_.set(std::nullopt); }
+    // What is in the way of monitors on this computer, and the way out: each a text of its
+    // own. One that was dismissed doesn't come back.
+    const std::vector<std::string>& obstacles() const { return obstacles_.get(); }
+    void dismissObstacle(const std::string& obstacle);
 
     // Rebuilds the inventory at once.
     void refresh();
@@ -88,8 +93,10 @@ class DisplayManager {
                      const std::map<DisplayID, Display>& reusable, const Matches& matches);
     void logRefresh(const std::vector<DisplayID>& online, std::size_t newMatches) const;
     void reapplyDimmers();
+    void noteObstacles();
 
     runtime::Task<> refreshWhenQuiet();
+    runtime::Task<> load(Display display);
     void setDisabled(std::vector<DisabledDisplay> disabled);
     void removeDisabled(DisplayID id);
     bool isDisabled(DisplayID id) const;
@@ -111,6 +118,8 @@ class DisplayManager {
     runtime::Observable<std::map<DisplayID, Display>> offline_;
     runtime::Observable<std::vector<DisabledDisplay>> disabled_;
     runtime::Observable<std::optional<std::string>> lastError_;
+    runtime::Observable<std::vector<std::string>> obstacles_;
+    std::set<std::string> dismissedObstacles_;
     // Every model made in this run, by display identifier: what refresh reuses.
     std::map<DisplayID, Display> known_;
     // When each monitor last dropped out of the online list by itself, as monitors

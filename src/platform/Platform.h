@@ -11,6 +11,7 @@
 #include "platform/Localizer.h"
 #include "platform/Log.h"
 #include "platform/LoginItem.h"
+#include "platform/Obstacles.h"
 #include "platform/PrivateFunctions.h"
 #include "platform/Registry.h"
 #include "platform/Workspace.h"
@@ -30,6 +31,7 @@ struct Platform {
     Workspace& workspace;
     Localizer& localizer;
     LoginItem& loginItem;
+    Obstacles& obstacles;
     Log log;
 };
 

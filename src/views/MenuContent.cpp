@@ -40,7 +40,16 @@ Node MenuContent::body() {
     if (const auto note = surroundings_.note(); !note.empty()) {
         parts.push_back(ui::wrappedText(note, Font::caption, Tone::secondary).fillWidth().key("note"));
     }
-    if (const auto& text = environment_.manager.lastError()) parts.push_back(error(*text));
+    if (const auto& text = environment_.manager.lastError()) {
+        parts.push_back(error(*text, [environment = environment_] {
+                            environment.manager.clearLastError();
+                        }).key("error"));
+    }
+    for (const std::string& text : environment_.manager.obstacles()) {
+        parts.push_back(error(text, [environment = environment_, text] {
+                            environment.manager.dismissObstacle(text);
+                        }).key("obstacle " + text));
+    }
     parts.push_back(Node{.element = ui::Scroll{.maximumHeight = maximumHeight()}, .children = {cards()}});
     parts.push_back(ui::divider());
     parts.push_back(footer());
@@ -57,16 +66,15 @@ Node MenuContent::title() const {
     return ui::row(8, std::move(parts)).fillWidth().key("title");
 }
 
-Node MenuContent::error(const std::string& text) const {
-    return ui::row(6,
-                   {
-                       ui::image("exclamationmark.triangle.fill", Font::caption, Tone::warning),
-                       ui::wrappedText(text, Font::caption, Tone::warning).fillWidth(),
-                       ui::symbolButton("xmark", environment_.translated("Dismiss"))
-                           .onPress([environment = environment_] { environment.manager.clearLastError(); }),
-                   })
-        .fillWidth()
-        .key("error");
+Node MenuContent::error(const std::string& text, std::function<void()> dismiss) const {
+    return ui::row(
+               6,
+               {
+                   ui::image("exclamationmark.triangle.fill", Font::caption, Tone::warning),
+                   ui::wrappedText(text, Font::caption, Tone::warning).fillWidth(),
+                   ui::symbolButton("xmark", environment_.translated("Dismiss")).onPress(std::move(dismiss)),
+               })
+        .fillWidth();
 }
 
 Node MenuContent::cards() {

@@ -42,7 +42,7 @@ class MenuContent : public ui::Component {
         ui::Children<std::tuple<platform::DisplayID, bool, const model::ExternalDisplay*>, ExternalCard>;
 
     ui::Node title() const;
-    ui::Node error(const std::string& text) const;
+    ui::Node error(const std::string& text, std::function<void()> dismiss) const;
     ui::Node cards();
     ui::Node cardOfDisabled(const Entry& entry, const Cards::Pass& cards);
     ui::Node footer() const;

@@ -2,7 +2,7 @@
 #include <memory>
 
 #include "app/PictureStage.h"
-#include "platform/simulated/EnglishLocalizer.h"
+#include "platform/EnglishLocalizer.h"
 #include "support/PictureApplication.h"
 #include "support/TestDesks.h"
 
@@ -12,7 +12,7 @@ namespace {
 class PictureStageTest : public testing::Test {
   protected:
     test::PictureApplication application_;
-    simulated::EnglishLocalizer english_;
+    platform::EnglishLocalizer english_;
 };
 
 TEST_F(PictureStageTest, BeginsWithEveryMonitorRead) {

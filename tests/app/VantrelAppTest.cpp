@@ -79,17 +79,6 @@ TEST(VantrelApp, ShowsTheLogFromTheLevelOn) {
     EXPECT_EQ(all.output, lasting.output);
 }
 
-TEST(VantrelApp, SaysThatItReachesNoRealMonitorsYet) {
-    for (const std::vector<std::string>& arguments : {std::vector<std::string>{}, {"--probe"}}) {
-        const Outcome outcome = run(arguments);
-        EXPECT_EQ(outcome.status, 2);
-        EXPECT_EQ(
-            outcome.errors,
-            "vantrel: this build can't reach real monitors yet; use --simulate for a simulated desk (see "
-            "--help)\n");
-    }
-}
-
 TEST(VantrelApp, AnswersAMistakeWithOneLineAndStatusTwo) {
     const Outcome outcome = run({"--nonsense"});
     EXPECT_EQ(outcome.status, 2);

@@ -2,7 +2,7 @@
 
 #include "platform/posix/AutostartEntry.h"
 #include "platform/posix/PosixFileSystem.h"
-#include "platform/simulated/EnglishLocalizer.h"
+#include "platform/EnglishLocalizer.h"
 #include "support/FakeDisk.h"
 #include "support/TemporaryFolder.h"
 #include "support/WatchedFileSystem.h"
@@ -17,14 +17,14 @@ const StateFolder::Environment environment{"/people/ann", {}, {}};
 
 struct Rig {
     FakeDisk disk{"/people/ann"};
-    simulated::EnglishLocalizer localizer;
+    platform::EnglishLocalizer localizer;
     AutostartEntry entry{disk, environment, localizer, "/usr/bin/vantrel"};
 };
 
 // The value of a key of the file that starts `program`.
 std::string valueOf(const std::string& key, const std::string& program) {
     FakeDisk disk("/people/ann");
-    simulated::EnglishLocalizer localizer;
+    platform::EnglishLocalizer localizer;
     AutostartEntry(disk, environment, localizer, program).enable();
     const std::string text = disk.bytes(path).value_or("");
     const std::size_t begin = text.find("\n" + key + "=") + key.size() + 2;
@@ -89,7 +89,7 @@ TEST(AutostartEntry, SaysWhyItCanNotBeWritten) {
     const test::TemporaryFolder home;
     home.put(".config", "a file in the way");
     PosixFileSystem files;
-    simulated::EnglishLocalizer localizer;
+    platform::EnglishLocalizer localizer;
     AutostartEntry entry(files, {home.path(), {}, {}}, localizer, "vantrel");
     EXPECT_EQ(entry.enable(), "The entry for starting at login can't be written: making " +
                                   home.path(".config/autostart/org.vantrel.Vantrel.desktop.new") +
@@ -99,7 +99,7 @@ TEST(AutostartEntry, SaysWhyItCanNotBeWritten) {
 
 TEST(AutostartEntry, SaysWhyItCanNotBeRemoved) {
     FakeDisk disk("/people/ann");
-    simulated::EnglishLocalizer localizer;
+    platform::EnglishLocalizer localizer;
     AutostartEntry(disk, environment, localizer, "vantrel").enable();
     test::WatchedFileSystem refusing(disk, [](std::string_view call, const std::string&) {
         return call == "remove" ? std::make_error_code(std::errc::permission_denied) : std::error_code();
@@ -113,7 +113,7 @@ TEST(AutostartEntry, SaysWhyItCanNotBeRemoved) {
 
 TEST(AutostartEntry, SaysThatThereIsNoPlaceWithoutHome) {
     FakeDisk disk("/");
-    simulated::EnglishLocalizer localizer;
+    platform::EnglishLocalizer localizer;
     AutostartEntry entry(disk, {}, localizer, "vantrel");
     const std::string reason =
         "There is no place for an entry for starting at login, because HOME is not set.";
@@ -135,7 +135,7 @@ TEST(AutostartEntry, IsTheOldOneOrTheNewOneWhenThePowerGoes) {
 TEST(AutostartEntry, WorksOnARealDisk) {
     const test::TemporaryFolder home;
     PosixFileSystem files;
-    simulated::EnglishLocalizer localizer;
+    platform::EnglishLocalizer localizer;
     AutostartEntry entry(files, {home.path(), {}, {}}, localizer, "/usr/bin/vantrel");
     EXPECT_EQ(entry.enable(), std::nullopt);
     EXPECT_TRUE(entry.isEnabled());

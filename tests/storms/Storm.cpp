@@ -46,12 +46,12 @@ Storm::Storm(std::uint64_t seed, Output output, Counts& counts)
       scheduler_(time_, wire_),
       functions_(wire_),
       baseTables_(identifiers_),
-      platform_{scheduler_,         loop_,
-                identifiers_,       wire_,
-                functions_,         baseTables_,
-                defaults_,          system_.workspace,
-                system_.localizer,  system_.loginItem,
-                platform::Log(log_)},
+      platform_{scheduler_,        loop_,
+                identifiers_,      wire_,
+                functions_,        baseTables_,
+                defaults_,         system_.workspace,
+                system_.localizer, system_.loginItem,
+                system_.obstacles, platform::Log(log_)},
       invariants_(simulated_.world(), identifiers_, scheduler_, wire_, defaults_, verdict_, counts) {
     for (const auto& display : desk_.desk.displays) identifiers_.give(display.id, display.id);
     if (!desk_.isClean) wire_.allowMistakes();

@@ -107,9 +107,9 @@ class ManagerRig {
     WatchedRegistry registry{real.registry, calls};
     WatchedWorkspace workspace{real.workspace, calls};
     platform::Localizer& shownBy;
-    platform::Platform watched{real.scheduler, real.mainLoop,   displays, registry,
-                               real.functions, real.baseTables, defaults, workspace,
-                               shownBy,        real.loginItem,  real.log};
+    platform::Platform watched{real.scheduler, real.mainLoop,   displays,       registry,
+                               real.functions, real.baseTables, defaults,       workspace,
+                               shownBy,        real.loginItem,  real.obstacles, real.log};
     std::unique_ptr<model::DisplayManager> manager;
 };
 

@@ -36,6 +36,8 @@ LIBRARIES = {
     "utf8proc.h": "PkgConfig::utf8proc",
     "xcb/": "PkgConfig::xcb",
     "wayland-": "PkgConfig::wayland-client",
+    "systemd/": "PkgConfig::systemd",
+    "libudev.h": "PkgConfig::udev",
     "QSvg": "Qt6::Svg",
     "QDBus": "Qt6::DBus",
     "Q": "Qt6::Widgets",

@@ -6,8 +6,8 @@ MacPlatform::MacPlatform(runtime::Scheduler& scheduler, runtime::MainLoop& mainL
     : scheduler_(scheduler), mainLoop_(mainLoop), displays_(mainLoop) {}
 
 platform::Platform MacPlatform::platform(platform::LogSink& sink, platform::Defaults& defaults) {
-    return {scheduler_, mainLoop_,  displays_,  registry_,  functions_,         baseTables_,
-            defaults,   workspace_, localizer_, loginItem_, platform::Log(sink)};
+    return {scheduler_, mainLoop_,  displays_,  registry_,  functions_, baseTables_,
+            defaults,   workspace_, localizer_, loginItem_, obstacles_, platform::Log(sink)};
 }
 
 }  // namespace vantrel::macos

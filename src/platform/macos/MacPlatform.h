@@ -50,6 +50,7 @@ class MacPlatform {
     MacWorkspace workspace_;
     MacLocalizer localizer_;
     MacLoginItem loginItem_;
+    platform::NoObstacles obstacles_;
 };
 
 }  // namespace vantrel::macos

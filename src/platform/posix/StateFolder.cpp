@@ -24,7 +24,8 @@ std::optional<std::string> below(const std::optional<std::string>& base,
 }  // namespace
 
 Environment environment() {
-    return {variable("HOME"), variable("XDG_CONFIG_HOME"), variable("XDG_STATE_HOME")};
+    return {variable("HOME"), variable("XDG_CONFIG_HOME"), variable("XDG_STATE_HOME"),
+            variable("XDG_RUNTIME_DIR")};
 }
 
 std::optional<std::string> real(const Environment& environment) {
@@ -33,6 +34,11 @@ std::optional<std::string> real(const Environment& environment) {
 
 std::optional<std::string> simulated(const Environment& environment) {
     return below(environment.stateHome, environment.home, "/.local/state", "/vantrel/simulated");
+}
+
+std::optional<std::string> session(const Environment& environment) {
+    if (isPlace(environment.runtimeFolder)) return *environment.runtimeFolder + "/vantrel";
+    return below(environment.stateHome, environment.home, "/.local/state", "/vantrel/session");
 }
 
 std::optional<std::string> autostart(const Environment& environment) {

@@ -1,9 +1,7 @@
 #include "platform/simulated/SimulatedLibraries.h"
 
 #include <atomic>
-#include <iterator>
 
-#include "platform/PrivateFunctions.h"
 #include "platform/simulated/Status.h"
 #include "runtime/Fatal.h"
 
@@ -57,49 +55,15 @@ static std::int32_t simulatedSetBrightness(std::uint32_t display, float level) {
 
 }  // extern "C"
 
-struct Symbol {
-    const char* library;
-    const char* name;
-    void* address;
-};
-
-template <class Function>
-Symbol symbol(const char* library, const char* name, Function function) {
-    return {library, name, reinterpret_cast<void*>(function)};
-}
-
-// Several symbols of one library name it with the same pointer, its handle.
-constexpr const char ioKit[] = "/System/Library/Frameworks/IOKit.framework/IOKit";
-constexpr const char skyLight[] = "/System/Library/PrivateFrameworks/SkyLight.framework/SkyLight";
-constexpr const char coreGraphics[] = "/System/Library/Frameworks/CoreGraphics.framework/CoreGraphics";
-constexpr const char displayServices[] =
-    "/System/Library/PrivateFrameworks/DisplayServices.framework/DisplayServices";
-
-const std::vector<Symbol>& symbols() {
-    // Assigning to the seam's types proves that the signatures are the same.
-    static const platform::AVServiceCreate create = simulatedAVServiceCreate;
-    static const platform::AVServiceWriteI2C write = simulatedAVServiceWriteI2C;
-    static const platform::AVServiceReadI2C read = simulatedAVServiceReadI2C;
-    static const platform::ConfigureDisplayEnabled configure = simulatedConfigureDisplayEnabled;
-    static const platform::GetDisplayBrightness getBrightness = simulatedGetBrightness;
-    static const platform::SetDisplayBrightness setBrightness = simulatedSetBrightness;
-    static const std::vector<Symbol> all{
-        symbol(ioKit, "IOAVServiceCreateWithService", create),
-        symbol(ioKit, "IOAVServiceWriteI2C", write),
-        symbol(ioKit, "IOAVServiceReadI2C", read),
-        symbol(skyLight, "CGSConfigureDisplayEnabled", configure),
-        symbol(coreGraphics, "CGSConfigureDisplayEnabled", configure),
-        symbol(displayServices, "DisplayServicesGetBrightness", getBrightness),
-        symbol(displayServices, "DisplayServicesSetBrightness", setBrightness),
-    };
-    return all;
-}
+constexpr platform::SubstituteLibraries::Functions functions{
+    simulatedAVServiceCreate,         simulatedAVServiceWriteI2C, simulatedAVServiceReadI2C,
+    simulatedConfigureDisplayEnabled, simulatedGetBrightness,     simulatedSetBrightness};
 
 }  // namespace
 
 SimulatedLibraries::SimulatedLibraries(World& world, SimulatedDisplayServices& displays,
                                        AVServiceTable& services)
-    : world_(world), displays_(displays), services_(services) {
+    : world_(world), displays_(displays), services_(services), substitutes_(functions) {
     const auto& missing = world.desk().missingSymbols;
     missing_.insert(missing.begin(), missing.end());
     runtime::require(alive.exchange(this) == nullptr, "two simulated computers at the same time");
@@ -107,19 +71,8 @@ SimulatedLibraries::SimulatedLibraries(World& world, SimulatedDisplayServices& d
 
 SimulatedLibraries::~SimulatedLibraries() { alive = nullptr; }
 
-void* SimulatedLibraries::open(const std::string& path) {
-    for (const Symbol& each : symbols()) {
-        if (path == each.library) return const_cast<char*>(each.library);
-    }
-    return nullptr;
-}
-
 void* SimulatedLibraries::lookUp(void* library, const std::string& name) {
-    if (missing_.contains(name)) return nullptr;
-    for (const Symbol& each : symbols()) {
-        if (library == each.library && name == each.name) return each.address;
-    }
-    return nullptr;
+    return missing_.contains(name) ? nullptr : substitutes_.lookUp(library, name);
 }
 
 }  // namespace vantrel::simulated

@@ -9,9 +9,8 @@
 
 #include <set>
 #include <string>
-#include <vector>
 
-#include "platform/SymbolLoader.h"
+#include "platform/SubstituteLibraries.h"
 #include "platform/simulated/AVServiceTable.h"
 #include "platform/simulated/SimulatedDisplayServices.h"
 #include "platform/simulated/World.h"
@@ -25,7 +24,7 @@ class SimulatedLibraries : public platform::SymbolLoader {
     SimulatedLibraries& operator=(const SimulatedLibraries&) = delete;
     ~SimulatedLibraries() override;
 
-    void* open(const std::string& path) override;
+    void* open(const std::string& path) override { return substitutes_.open(path); }
     void* lookUp(void* library, const std::string& symbol) override;
 
     // For the functions themselves.
@@ -37,6 +36,7 @@ class SimulatedLibraries : public platform::SymbolLoader {
     World& world_;
     SimulatedDisplayServices& displays_;
     AVServiceTable& services_;
+    platform::SubstituteLibraries substitutes_;
     std::set<std::string> missing_;
 };
 

@@ -18,8 +18,8 @@ SimulatedPlatform::SimulatedPlatform(Desk desk, runtime::Scheduler& scheduler, r
       workspace_(world_) {}
 
 platform::Platform SimulatedPlatform::platform(platform::LogSink& sink, platform::Defaults& defaults) {
-    return {scheduler_, mainLoop_,  displays_,  registry_,  functions_,         baseTables_,
-            defaults,   workspace_, localizer_, loginItem_, platform::Log(sink)};
+    return {scheduler_, mainLoop_,  displays_,  registry_,  functions_, baseTables_,
+            defaults,   workspace_, localizer_, loginItem_, obstacles_, platform::Log(sink)};
 }
 
 SimulatedMonitor& SimulatedPlatform::monitor(platform::DisplayID display) {

@@ -15,15 +15,17 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "platform/EnglishLocalizer.h"
 #include "platform/MemoryDefaults.h"
 #include "platform/Platform.h"
 #include "platform/simulated/AVServiceTable.h"
 #include "platform/simulated/Desk.h"
-#include "platform/simulated/EnglishLocalizer.h"
 #include "platform/simulated/SimulatedDisplayServices.h"
 #include "platform/simulated/SimulatedLibraries.h"
 #include "platform/simulated/SimulatedLoginItem.h"
+#include "platform/simulated/SimulatedObstacles.h"
 #include "platform/simulated/SimulatedRegistry.h"
 #include "platform/simulated/SimulatedWorkspace.h"
 #include "platform/simulated/World.h"
@@ -49,6 +51,9 @@ class SimulatedPlatform {
     // The system's reason to change no login item from now on; nothing: it does.
     void refuseLoginItem(std::optional<std::string> reason) { loginItem_.refuse(std::move(reason)); }
 
+    // What the user is told to be in the way from the next look on.
+    void obstruct(std::vector<text::Text> obstacles) { obstacles_.set(std::move(obstacles)); }
+
     // What the program has taken and not given back.
     std::size_t liveServices() const { return services_.live(); }
     std::size_t openConfigurations() const { return displays_.openConfigurations(); }
@@ -65,8 +70,9 @@ class SimulatedPlatform {
     platform::BaseTables baseTables_{displays_};
     platform::MemoryDefaults memoryDefaults_;
     SimulatedWorkspace workspace_;
-    EnglishLocalizer localizer_;
+    platform::EnglishLocalizer localizer_;
     SimulatedLoginItem loginItem_;
+    SimulatedObstacles obstacles_;
 };
 
 }  // namespace vantrel::simulated

@@ -3,11 +3,11 @@
 
 #include "platform/Localizer.h"
 
-namespace vantrel::simulated {
+namespace vantrel::platform {
 
-class EnglishLocalizer : public platform::Localizer {
+class EnglishLocalizer : public Localizer {
   public:
     std::string shown(const text::Text& text) override { return text.english(); }
 };
 
-}  // namespace vantrel::simulated
+}  // namespace vantrel::platform

@@ -1,0 +1,119 @@
+#include "platform/linux/Inventory.h"
+
+#include <algorithm>
+#include <set>
+#include <string_view>
+#include <utility>
+
+namespace vantrel::linux {
+namespace {
+
+using platform::DisplayID;
+
+// FNV-1a, 32 bits.
+class Hash {
+  public:
+    void add(std::string_view text) {
+        for (const char character : text) add(static_cast<std::uint8_t>(character));
+        add(std::uint8_t{0});
+    }
+    void add(std::uint32_t number) {
+        for (unsigned shift : {0U, 8U, 16U, 24U}) add(static_cast<std::uint8_t>(number >> shift));
+    }
+    std::uint32_t value() const { return value_; }
+
+  private:
+    void add(std::uint8_t byte) { value_ = (value_ ^ byte) * 16777619U; }
+    std::uint32_t value_ = 2166136261U;
+};
+
+DisplayID identifier(const Connector& connector, const EDID& edid) {
+    Hash hash;
+    hash.add(connector.device);
+    hash.add(connector.name);
+    hash.add(edid.vendor);
+    hash.add(edid.product);
+    hash.add(edid.serial);
+    return hash.value();
+}
+
+// 0 is no display; the highest numbers are for nobody's display.
+constexpr DisplayID lowest = 1;
+constexpr DisplayID highest = 0xFFFFFF00;
+
+// Two hashes that meet are told apart by their order, which is the kernel's.
+DisplayID freeIdentifier(DisplayID wanted, const std::set<DisplayID>& taken) {
+    DisplayID id = std::clamp(wanted, lowest, highest);
+    while (taken.contains(id)) id = id == highest ? lowest : id + 1;
+    return id;
+}
+
+Inventory::Displays pluggedIn(const Sysfs& sysfs) {
+    Inventory::Displays displays;
+    std::set<DisplayID> taken;
+    for (Connector& connector : Connector::list(sysfs)) {
+        if (!connector.isConnected) continue;
+        const auto edid = EDID::read(connector.edid);
+        const DisplayID id = freeIdentifier(identifier(connector, edid.value_or(EDID())), taken);
+        taken.insert(id);
+        displays.push_back({id, std::move(connector), edid, std::nullopt});
+    }
+    return displays;
+}
+
+}  // namespace
+
+void Inventory::look() {
+    Displays displays = pluggedIn(sysfs_);
+    findAdapters(displays);
+    const std::lock_guard lock(mutex_);
+    displays_ = std::make_shared<const Displays>(std::move(displays));
+}
+
+void Inventory::findAdapters(Displays& displays) {
+    std::set<I2CDevices::Bus> found;
+    std::set<I2CDevices::Bus> used;
+    for (Display& display : displays) {
+        display.adapter = Adapters::ofConnector(sysfs_, display.connector);
+        if (display.adapter) found.insert(display.adapter->bus);
+    }
+    used = found;
+    std::map<std::string, Asked> asked;
+    for (Display& display : displays) {
+        if (display.adapter || display.connector.isBuiltIn()) continue;
+        const auto before = asked_.find(display.connector.folder);
+        const bool isKnown = before != asked_.end() &&
+                             before->second.connector.edid == display.connector.edid &&
+                             before->second.adapter && isThere(*before->second.adapter);
+        if (isKnown) {
+            display.adapter = before->second.adapter;
+        } else {
+            auto candidates = Adapters::ofDevice(sysfs_, display.connector.device);
+            std::erase_if(candidates,
+                          [&found](const Adapter& adapter) { return found.contains(adapter.bus); });
+            for (const Adapter& candidate : candidates) used.insert(candidate.bus);
+            buses_.keepBuses(used);
+            display.adapter = Adapters::withEDID(buses_, candidates, display.connector.edid);
+        }
+        if (display.adapter) {
+            found.insert(display.adapter->bus);
+            asked.insert_or_assign(display.connector.folder, Asked{display.connector, display.adapter});
+        }
+    }
+    asked_ = std::move(asked);
+    buses_.keepBuses(found);
+}
+
+std::shared_ptr<const Inventory::Displays> Inventory::displays() const {
+    const std::lock_guard lock(mutex_);
+    return displays_;
+}
+
+std::optional<Inventory::Display> Inventory::display(DisplayID id) const {
+    const auto displays = this->displays();
+    const auto found = std::find_if(displays->begin(), displays->end(),
+                                    [id](const Display& display) { return display.id == id; });
+    return found != displays->end() ? std::optional(*found) : std::nullopt;
+}
+
+}  // namespace vantrel::linux
