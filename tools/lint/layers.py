@@ -1,9 +1,9 @@
 """Includes agree with the rooms' LINKS lists in src/CMakeLists.txt.
 
 A room may include itself and what it links, directly or through another room.
-Only src/app and the tests may name an implementation of the platform, only the
-room that draws with a toolkit may name that toolkit, and only the Mac's own rooms
-name what is the Mac's."""
+Only src/app and the tests may name an implementation of the platform (which may
+have rooms below it), only the room that draws with a toolkit may name that toolkit,
+and only the Mac's own rooms name what is the Mac's."""
 
 import posixpath
 import re
@@ -12,8 +12,7 @@ import cpp
 from tree import Finding
 
 ROOMS = "src/CMakeLists.txt"
-# The room that chooses the implementation of the platform, and the implementations, with
-# whatever is below them.
+# The room that chooses the implementation of the platform, and the implementations.
 APPLICATION = "src/app"
 IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix", "src/platform/macos", "src/platform/linux")
 
@@ -24,17 +23,18 @@ TOOLKITS = {
     **{header: _MACOS for header in (
         "AppKit/", "CoreFoundation/", "CoreGraphics/", "Foundation/", "IOKit/", "ServiceManagement/", "dispatch/",
         "dlfcn.h", "mach/", "objc/", "os/", "pthread/")},
-    **{header: ("src/platform/linux",) for header in ("libudev.h", "linux/", "sys/epoll.h", "sys/eventfd.h")},
-    "systemd/": ("src/platform/linux", "src/platform/linux/mutter"),
+    **{header: ("src/platform/linux",) for header in ("libudev.h", "linux/", "sys/epoll.h", "sys/eventfd.h", "systemd/")},
     "wayland-": ("src/platform/linux/wayland",),
 }
 
-# What a library of the system is included as, and what has to be linked for it.
+# What a library of the system is included as, and what has to be linked for it: one
+# of several, if there are several. The longer beginning of two comes first.
 LIBRARIES = {
     "nlohmann/": "nlohmann_json::nlohmann_json",
     "CLI/": "CLI11::CLI11",
     "utf8proc.h": "PkgConfig::utf8proc",
-    "xcb/": "PkgConfig::xcb",
+    "xcb/randr.h": "PkgConfig::xcb_randr",
+    "xcb/": ("PkgConfig::xcb", "PkgConfig::xcb_randr"),
     "wayland-": "PkgConfig::wayland-client",
     "systemd/": "PkgConfig::systemd",
     "libudev.h": "PkgConfig::udev",
@@ -102,23 +102,25 @@ def check(tree):
 
 def _objection(header, is_angled, room, allowed, room_of, folder):
     owners = next((homes for prefix, homes in TOOLKITS.items() if is_angled and header.startswith(prefix)), (folder,))
-    if folder not in owners:
+    if not _within(folder, owners):
         return f"only {' and '.join(owners)} may include <{header}>"
     library = next((target for prefix, target in LIBRARIES.items() if header.startswith(prefix)), "")
     if library != "":
-        return "" if library in allowed else f"{room} does not link what <{header}> belongs to"
+        libraries = library if isinstance(library, tuple) else (library,)
+        return "" if allowed.intersection(libraries) else f"{room} does not link what <{header}> belongs to"
     if is_angled:
         return ""
     target = "src/" + posixpath.dirname(header)
     if target not in room_of:
         return f'"{header}" is in no room; include as "room/Type.h"'
-    is_implementation = any(_is_in(target, implementation) for implementation in IMPLEMENTATIONS)
-    if is_implementation and folder != APPLICATION and not _is_in(folder, target):
+    implementation = _within(target, IMPLEMENTATIONS)
+    if implementation and folder != APPLICATION and _within(folder, IMPLEMENTATIONS) != implementation:
         return f"only src/app and the tests may name an implementation of the platform: {target}"
     if room_of[target] not in allowed:
         return f'{room} may not include "{header}": it does not link {room_of[target]}'
     return ""
 
 
-def _is_in(folder, outer):
-    return folder == outer or folder.startswith(outer + "/")
+def _within(folder, rooms):
+    """The one of the rooms that a folder is, or lies below."""
+    return next((room for room in rooms if folder == room or folder.startswith(room + "/")), "")

@@ -13,9 +13,9 @@ vantrel_room(posix FOLDER platform/posix LINKS vantrel_platform)
 vantrel_room(macos FOLDER platform/macos LINKS vantrel_platform)
 vantrel_room(linux FOLDER platform/linux LINKS vantrel_platform)
 vantrel_room(wayland FOLDER platform/linux/wayland LINKS vantrel_linux PkgConfig::wayland-client)
-vantrel_room(mutter FOLDER platform/linux/mutter LINKS vantrel_linux)
-vantrel_room(qt FOLDER ui/qt LINKS vantrel_runtime Qt6::Widgets Qt6::Svg)
-vantrel_room(app LINKS vantrel_simulated vantrel_posix vantrel_qt vantrel_wayland CLI11::CLI11 $<$<PLATFORM_ID:Darwin>:vantrel_macos>)
+vantrel_room(randr FOLDER platform/linux/randr LINKS vantrel_linux PkgConfig::xcb_randr)
+vantrel_room(qt FOLDER ui/qt LINKS vantrel_runtime Qt6::Widgets Qt6::Svg PkgConfig::xcb)
+vantrel_room(app LINKS vantrel_simulated vantrel_posix vantrel_randr vantrel_qt CLI11::CLI11 $<$<PLATFORM_ID:Darwin>:vantrel_macos>)
 """
 
 
@@ -44,26 +44,33 @@ class LayersTest(unittest.TestCase):
         self.assertEqual(reasons("src/platform/posix/StateFile.cpp", include), [])
         self.assertEqual(len(reasons("src/platform/simulated/Desk.cpp", include)), 1)
 
-    def test_an_implementation_may_have_rooms_below_it_that_build_on_it(self):
-        include = '#include "platform/linux/Desktop.h"\n'
-        self.assertEqual(reasons("src/platform/linux/wayland/WaylandDesktop.h", include), [])
-        self.assertEqual(reasons("src/app/main.cpp", '#include "platform/linux/wayland/WaylandDesktop.h"\n'), [])
-        (reason,) = reasons("src/platform/Log.h", '#include "platform/linux/wayland/WaylandDesktop.h"\n')
-        self.assertIn("only src/app", reason)
+    def test_a_room_below_an_implementation_is_a_part_of_it(self):
+        include = '#include "platform/linux/Desktop.h"\n#include "platform/linux/randr/RandRDesktop.h"\n'
+        self.assertEqual(reasons("src/app/main.cpp", include), [])
+        self.assertEqual(reasons("src/platform/linux/randr/RandRDesktop.cpp", include), [])
+        self.assertEqual(reasons("src/platform/linux/randr/Clock.cpp", "#include <sys/epoll.h>\n"), [])
+        for reason in reasons("src/platform/posix/StateFile.cpp", include):
+            self.assertIn("only src/app", reason)
+        self.assertEqual(len(reasons("src/platform/posix/StateFile.cpp", include)), 2)
 
-    def test_an_implementation_does_not_name_what_is_built_on_it_or_beside_it(self):
-        include = '#include "platform/linux/wayland/WaylandDesktop.h"\n'
-        self.assertEqual(len(reasons("src/platform/linux/Descriptors.h", include)), 1)
-        self.assertEqual(len(reasons("src/platform/linux/mutter/MutterDesktop.h", include)), 1)
-        self.assertEqual(len(reasons("src/platform/linux/wayland/Proxy.h", '#include "platform/posix/FileSystem.h"\n')), 1)
+    def test_an_implementation_may_not_include_a_room_below_it_that_it_does_not_link(self):
+        (reason,) = reasons("src/platform/linux/Desktop.h", '#include "platform/linux/randr/RandRDesktop.h"\n')
+        self.assertIn("does not link randr", reason)
 
-    def test_what_is_a_desktops_is_named_by_its_own_room_only(self):
+    def test_of_two_libraries_with_headers_in_one_folder_the_right_one_is_linked(self):
+        include = "#include <xcb/xcb.h>\n#include <xcb/randr.h>\n"
+        self.assertEqual(reasons("src/platform/linux/randr/Connection.cpp", include), [])
+        (reason,) = reasons("src/ui/qt/QtPopover.cpp", include)
+        self.assertIn("<xcb/randr.h>", reason)
+        self.assertEqual(len(reasons("src/platform/linux/Desktop.h", include)), 2)
+
+    def test_what_is_one_desktops_is_named_by_its_own_room_only(self):
         include = "#include <wayland-client.h>\n"
         self.assertEqual(reasons("src/platform/linux/wayland/Connection.cpp", include), [])
         self.assertEqual(len(reasons("src/platform/linux/Descriptors.h", include)), 1)
-        include = "#include <systemd/sd-bus.h>\n"
-        self.assertEqual(reasons("src/platform/linux/mutter/MutterDesktop.cpp", include), [])
-        self.assertEqual(len(reasons("src/platform/linux/wayland/Connection.cpp", include)), 1)
+        self.assertEqual(len(reasons("src/platform/linux/randr/Connection.cpp", include)), 1)
+        include = '#include "platform/linux/wayland/WaylandDesktop.h"\n'
+        self.assertEqual(len(reasons("src/platform/linux/randr/RandRDesktop.h", include)), 1)
 
     def test_a_library_has_to_be_linked_too(self):
         include = "#include <nlohmann/json.hpp>\n"
