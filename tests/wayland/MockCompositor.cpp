@@ -1,10 +1,8 @@
 #include "wayland/MockCompositor.h"
 
 #include <cstring>
-#include <sys/eventfd.h>
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <unistd.h>
 #include <utility>
 
 #include "runtime/Fatal.h"
@@ -28,10 +26,7 @@ int listenAt(const std::string& path) {
 }  // namespace
 
 MockCompositor::MockCompositor(const Protocols& protocols, const std::vector<MockMonitor>& monitors)
-    : socket_(folder_.path("wayland-0")),
-      bell_(::eventfd(0, EFD_CLOEXEC)),
-      done_(scheduler_.makeGate()),
-      pause_(scheduler_.makeGate()) {
+    : socket_(folder_.path("wayland-0")) {
     desk_.display = wl_display_create();
     wl_display_add_socket_fd(desk_.display, listenAt(socket_));
     for (const MockMonitor& monitor : monitors)
@@ -46,22 +41,20 @@ MockCompositor::MockCompositor(const Protocols& protocols, const std::vector<Moc
     };
     desk_.publish();
     wl_event_loop_add_fd(
-        wl_display_get_event_loop(desk_.display), bell_, WL_EVENT_READABLE,
+        wl_display_get_event_loop(desk_.display), thread_.bell(), WL_EVENT_READABLE,
         [](int, std::uint32_t, void* data) {
-            static_cast<MockCompositor*>(data)->takeWork();
+            static_cast<test::PeerThread*>(data)->takeWork();
             return 0;
         },
-        this);
-    scheduler_.startThread("compositor", runtime::QualityOfService::userInitiated, [this] { serve(); });
+        &thread_);
+    thread_.start("compositor", [this] { serve(); });
 }
 
 void MockCompositor::run(std::function<void(MockDesk& desk)> work) {
-    {
-        const std::scoped_lock hold(lock_);
-        work_ = [this, work = std::move(work)] { work(desk_); };
-    }
-    ::eventfd_write(bell_, 1);
-    done_->wait(std::nullopt);
+    thread_.run([this, &work] {
+        work(desk_);
+        wl_display_flush_clients(desk_.display);
+    });
 }
 
 void MockCompositor::change(std::function<void(MockDesk& desk)> work) {
@@ -85,46 +78,19 @@ void MockCompositor::seizeControl(const std::string& name) {
     run([this, &name](MockDesk& desk) { outputs_->seizeControl(desk.monitor(name)); });
 }
 
-void MockCompositor::pause() {
-    run([this](MockDesk&) {
-        done_->open();
-        pause_->wait(std::nullopt);
-    });
-}
-
-void MockCompositor::goOn() {
-    pause_->open();
-    done_->wait(std::nullopt);
-}
-
 void MockCompositor::die() {
     if (desk_.display == nullptr) return;
-    run([this](MockDesk&) { isOver_ = true; });
-    scheduler_.finishThreads();
+    thread_.end();
     wl_display_destroy_clients(desk_.display);
     wl_display_destroy(std::exchange(desk_.display, nullptr));
-    ::close(bell_);
 }
 
 void MockCompositor::serve() {
     wl_event_loop* const loop = wl_display_get_event_loop(desk_.display);
-    while (!isOver_) {
+    while (!thread_.isOver()) {
         wl_display_flush_clients(desk_.display);
         wl_event_loop_dispatch(loop, -1);
     }
-}
-
-void MockCompositor::takeWork() {
-    eventfd_t rings = 0;
-    ::eventfd_read(bell_, &rings);
-    std::function<void()> work;
-    {
-        const std::scoped_lock hold(lock_);
-        work = std::move(work_);
-    }
-    work();
-    wl_display_flush_clients(desk_.display);
-    done_->open();
 }
 
 }  // namespace vantrel::wayland

@@ -5,14 +5,12 @@
 #pragma once
 
 #include <functional>
-#include <memory>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
 #include <wayland-server.h>
 
-#include "runtime/RealScheduler.h"
+#include "support/PeerThread.h"
 #include "support/TemporaryFolder.h"
 #include "wayland/MockDesk.h"
 #include "wayland/MockKDEManagement.h"
@@ -49,14 +47,13 @@ class MockCompositor {
     void seizeControl(const std::string& name);
 
     // Reads nothing from its clients until it goes on.
-    void pause();
-    void goOn();
+    void pause() { thread_.pause(); }
+    void goOn() { thread_.goOn(); }
     // Closes all connections, without a word.
     void die();
 
   private:
     void serve();
-    void takeWork();
 
     test::TemporaryFolder folder_;
     const std::string socket_;
@@ -64,15 +61,7 @@ class MockCompositor {
     std::optional<MockOutputs> outputs_;
     std::optional<MockWlrManagement> wlr_;
     std::optional<MockKDEManagement> kde_;
-    // The thread's, once it has been started.
-    bool isOver_ = false;
-
-    const int bell_;
-    std::mutex lock_;
-    std::function<void()> work_;
-    runtime::RealScheduler scheduler_;
-    std::unique_ptr<runtime::Gate> done_;
-    std::unique_ptr<runtime::Gate> pause_;
+    test::PeerThread thread_;
 };
 
 }  // namespace vantrel::wayland

@@ -13,6 +13,15 @@ TEST_F(WaylandDesktopTablesTest, LeavesTheControlToOthersAtFirst) {
     EXPECT_TRUE(other->setTable("DP-1", dimmed()));
 }
 
+TEST_F(WaylandDesktopTablesTest, AsksForNoControlWhereNoTablesAreWanted) {
+    const auto guard = WaylandDesktop::open({compositor.socket(), "", false}, descriptors, clock);
+    EXPECT_EQ(guard->outputs().at(0).tableCapacity, 0U);
+    EXPECT_FALSE(guard->setTable("DP-1", dimmed()));
+    EXPECT_TRUE(guard->canSwitch());
+    // The other desktop's.
+    EXPECT_EQ(compositor.monitor("DP-1").controlRequests, 1);
+}
+
 TEST_F(WaylandDesktopTablesTest, HandsATableToTheCompositor) {
     ASSERT_TRUE(desktop->setTable("DP-1", dimmed()));
     const auto table = compositor.monitor("DP-1").table;

@@ -11,7 +11,7 @@ using testing::ElementsAre;
 class WaylandDesktopTest : public WaylandRig {};
 
 TEST_F(WaylandDesktopTest, IsNotThereWithoutACompositor) {
-    EXPECT_EQ(WaylandDesktop::open({"/nowhere/wayland-0", ""}, descriptors, clock), nullptr);
+    EXPECT_EQ(WaylandDesktop::open({"/nowhere/wayland-0", "", true}, descriptors, clock), nullptr);
 }
 
 TEST_F(WaylandDesktopTest, HasTheNameThatTheSessionHas) {

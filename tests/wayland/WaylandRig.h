@@ -47,7 +47,7 @@ class WaylandRig : public testing::Test {
         : compositor(protocols, monitors), desktop(open("")) {}
 
     std::unique_ptr<WaylandDesktop> open(const std::string& name) {
-        return WaylandDesktop::open({compositor.socket(), name}, descriptors, clock);
+        return WaylandDesktop::open({compositor.socket(), name, true}, descriptors, clock);
     }
     Output output(const std::string& name) {
         for (const Output& output : desktop->outputs()) {

@@ -17,8 +17,11 @@ struct Globals::Events {
         [](void* data, wl_registry*, std::uint32_t number) { static_cast<Globals*>(data)->remove(number); }};
 };
 
-Globals::Globals(Connection& connection)
-    : connection_(connection), registry_(wl_display_get_registry(connection.display())), kde_(connection) {
+Globals::Globals(Connection& connection, bool wantsTables)
+    : connection_(connection),
+      wantsTables_(wantsTables),
+      registry_(wl_display_get_registry(connection.display())),
+      kde_(connection) {
     wl_registry_add_listener(registry_.get(), &Events::listener, this);
 }
 
@@ -46,7 +49,7 @@ void Globals::add(std::uint32_t number, std::string_view interface, std::uint32_
         const auto output = outputs_.try_emplace(
             number, bind<wl_output>(number, wl_output_interface, CoreOutput::neededVersion));
         if (gamma_) output.first->second.useGammaControl(connection_, gamma_.get());
-    } else if (interface == zwlr_gamma_control_manager_v1_interface.name && !gamma_) {
+    } else if (interface == zwlr_gamma_control_manager_v1_interface.name && wantsTables_ && !gamma_) {
         gammaNumber_ = number;
         gamma_ = bind<zwlr_gamma_control_manager_v1>(number, zwlr_gamma_control_manager_v1_interface, 1);
         for (auto& [ignored, output] : outputs_) output.useGammaControl(connection_, gamma_.get());

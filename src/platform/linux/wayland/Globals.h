@@ -19,7 +19,7 @@ namespace vantrel::wayland {
 
 class Globals {
   public:
-    explicit Globals(Connection& connection);
+    Globals(Connection& connection, bool wantsTables);
     Globals(const Globals&) = delete;
     Globals& operator=(const Globals&) = delete;
 
@@ -42,6 +42,7 @@ class Globals {
     Proxy<Object> bind(std::uint32_t number, const Interface& interface, std::uint32_t version);
 
     Connection& connection_;
+    const bool wantsTables_;
     int bindings_ = 0;
     Proxy<wl_registry> registry_;
     std::uint32_t gammaNumber_ = 0;

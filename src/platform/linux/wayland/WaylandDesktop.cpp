@@ -55,7 +55,7 @@ WaylandDesktop::WaylandDesktop(const Session& session, std::unique_ptr<Connectio
     : session_(session),
       clock_(clock),
       connection_(std::move(connection)),
-      globals_(std::make_unique<Globals>(*connection_)) {
+      globals_(std::make_unique<Globals>(*connection_, session.wantsTables)) {
     const Deadline deadline = soon();
     connection_->roundtrip(deadline);
     learn(deadline);

@@ -27,6 +27,9 @@ class WaylandDesktop : public linux::Desktop {
         std::string display;
         // XDG_CURRENT_DESKTOP; may be empty.
         std::string desktop;
+        // False for a program that only switches outputs: learning how large a table is
+        // keeps all others from it, if only for a moment.
+        bool wantsTables = true;
     };
 
     // Nothing when no compositor is there.
