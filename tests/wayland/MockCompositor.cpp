@@ -40,7 +40,7 @@ MockCompositor::MockCompositor(const Protocols& protocols, const std::vector<Moc
         outputs_->publish();
     };
     desk_.publish();
-    wl_event_loop_add_fd(
+    workSource_ = wl_event_loop_add_fd(
         wl_display_get_event_loop(desk_.display), thread_.bell(), WL_EVENT_READABLE,
         [](int, std::uint32_t, void* data) {
             static_cast<test::PeerThread*>(data)->takeWork();
@@ -81,6 +81,7 @@ void MockCompositor::seizeControl(const std::string& name) {
 void MockCompositor::die() {
     if (desk_.display == nullptr) return;
     thread_.end();
+    wl_event_source_remove(workSource_);
     wl_display_destroy_clients(desk_.display);
     wl_display_destroy(std::exchange(desk_.display, nullptr));
 }

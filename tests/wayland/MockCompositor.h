@@ -61,6 +61,7 @@ class MockCompositor {
     std::optional<MockOutputs> outputs_;
     std::optional<MockWlrManagement> wlr_;
     std::optional<MockKDEManagement> kde_;
+    wl_event_source* workSource_ = nullptr;
     test::PeerThread thread_;
 };
 
