@@ -51,11 +51,17 @@ function(vantrel_room name)
   endif()
 endfunction()
 
-# vantrel_tests(<room> [EXCEPT <pattern of paths>] [LINKS <library>...]): every tests/<room>/*.cpp but a main.cpp,
-# one ctest entry.
+# vantrel_tests(<room> [FOLDER <folder of tests/>] [ONLY|EXCEPT <pattern of paths>] [RUN_BY <program>]
+#               [LINKS <library>...]): every tests/<room>/*.cpp but a main.cpp, one ctest entry.
 function(vantrel_tests room)
-  cmake_parse_arguments(TESTS "" "EXCEPT" "LINKS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${room}/*.h ${PROJECT_SOURCE_DIR}/tests/${room}/*.cpp)
+  cmake_parse_arguments(TESTS "" "FOLDER;ONLY;EXCEPT;RUN_BY" "LINKS" ${ARGN})
+  if(NOT TESTS_FOLDER)
+    set(TESTS_FOLDER ${room})
+  endif()
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${TESTS_FOLDER}/*.h ${PROJECT_SOURCE_DIR}/tests/${TESTS_FOLDER}/*.cpp)
+  if(TESTS_ONLY)
+    list(FILTER sources INCLUDE REGEX "${TESTS_ONLY}")
+  endif()
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   if(TESTS_EXCEPT)
     list(FILTER sources EXCLUDE REGEX "${TESTS_EXCEPT}")
@@ -70,5 +76,5 @@ function(vantrel_tests room)
   if(VANTREL_SANITIZERS)
     target_compile_options(${room}_tests PRIVATE -O0)
   endif()
-  add_test(NAME ${room} COMMAND ${room}_tests --gtest_brief=1)
+  add_test(NAME ${room} COMMAND ${TESTS_RUN_BY} $<TARGET_FILE:${room}_tests> --gtest_brief=1)
 endfunction()

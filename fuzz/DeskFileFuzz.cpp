@@ -1,10 +1,12 @@
-// Any bytes are a desk that keeps its promises, or one mistake told in one line.
+// Any bytes are a desk that keeps its promises and can be written again, or one mistake
+// told in one line.
 #include <algorithm>
 #include <cstdint>
 #include <set>
 #include <string_view>
 
 #include "platform/simulated/DeskFile.h"
+#include "platform/simulated/DeskWriter.h"
 #include "runtime/Fatal.h"
 
 using namespace vantrel;
@@ -41,6 +43,17 @@ void checkMonitor(const MonitorPlan& monitor) {
     }
     if (monitor.capabilities)
         runtime::require(monitor.capabilities->size() <= 0xFFFF, "an offset has 16 bits");
+    runtime::require(monitor.recording.size() <= MonitorPlan::mostTransfers, "a recording has an end");
+    Duration before{0};
+    for (const platform::Transfer& transfer : monitor.recording) {
+        runtime::require(transfer.length <= MonitorPlan::longestTransfer, "a transfer has an end");
+        const bool hasBytes =
+            transfer.status == 0 || transfer.direction == platform::Transfer::Direction::write;
+        runtime::require(transfer.bytes.size() == (hasBytes ? transfer.length : 0),
+                         "a transfer has its bytes");
+        runtime::require(transfer.at >= before && transfer.took >= Duration::zero(), "time goes forward");
+        before = transfer.at;
+    }
     if (!monitor.inputs) return;
     const InputPlan& inputs = *monitor.inputs;
     runtime::require(!monitor.features.contains(0x60), "VCP code 60 comes from the inputs");
@@ -64,6 +77,16 @@ void checkDesk(const Desk& desk) {
     }
 }
 
+// Whatever a desk file can say, but for personalities, a recorded desk can.
+void checkWriter(Desk desk) {
+    for (DisplayPlan& display : desk.displays) {
+        if (display.monitor) display.monitor->personality = Personality();
+    }
+    const DeskFileResult read = DeskFile::readText(DeskWriter::text(desk), "x.json");
+    const auto* again = std::get_if<Desk>(&read);
+    runtime::require(again != nullptr && *again == desk, "a desk that is written reads the same");
+}
+
 void checkError(const DeskFileError& error) {
     runtime::require(!error.reason.empty(), "a mistake has a reason");
     const std::string line = error.line();
@@ -77,7 +100,10 @@ void checkError(const DeskFileError& error) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     const DeskFileResult result = DeskFile::readText(text, "x.json");
-    if (const auto* desk = std::get_if<Desk>(&result)) checkDesk(*desk);
+    if (const auto* desk = std::get_if<Desk>(&result)) {
+        checkDesk(*desk);
+        checkWriter(*desk);
+    }
     if (const auto* error = std::get_if<DeskFileError>(&result)) checkError(*error);
     return 0;
 }

@@ -9,14 +9,15 @@ contrast, volume, the input that a monitor shows and whether the computer
 sends it a picture at all. It talks to the monitors over DDC/CI, the control
 channel of the video cable.
 
-On Linux it does so on a simulated desk, of monitors that speak DDC/CI byte
-by byte and misbehave as real ones do.")
+The picture of a monitor that doesn't speak DDC/CI is dimmed instead, where the
+desktop lets programs do that.")
 set(CPACK_STRIP_FILES ON)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/postinst)
 # What Qt needs besides the libraries: a bus to show itself in the tray through,
 # the folders of the icons' theme, and its plugin for Wayland.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS

@@ -45,6 +45,10 @@ std::optional<CommandLine::Mistake> wrongCombination(const CommandLine& line) {
     if (line.play && line.parseCapabilities) {
         return CommandLine::Mistake{oneLine("--play and --parse-capabilities: one at a time")};
     }
+    if (line.record && !line.probe)
+        return CommandLine::Mistake{oneLine("--record needs --probe, which is what is recorded")};
+    if (line.record && line.record->empty())
+        return CommandLine::Mistake{oneLine("--record: no file is given")};
     if (line.virtualTime && !line.simulate && !line.play) {
         return CommandLine::Mistake{
             oneLine("--virtual-time needs --simulate: real monitors answer in real time")};
@@ -74,6 +78,7 @@ std::optional<CommandLine::Mistake> wrongCombination(const CommandLine& line) {
 std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::parse(
     const std::vector<std::string>& arguments) {
     CommandLine line;
+    std::string record;
     std::string simulate;
     std::string play;
     std::string screenshot;
@@ -86,6 +91,12 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
     parser.set_help_flag("--help", "Print this help and exit");
     parser.add_flag("--probe", line.probe, "Print what every external monitor answers over DDC/CI, and exit");
     parser.add_flag(CommandLine::guardOutputs, line.guard)->group("");
+    const CLI::Option* recordOption =
+        parser
+            .add_option("--record", record,
+                        "With --probe: write what the monitors answer into the new desk file FILE, for a "
+                        "report of a problem; --simulate FILE replays it")
+            ->type_name("FILE");
     const CLI::Option* simulateOption =
         parser
             .add_option(
@@ -139,6 +150,7 @@ std::variant<CommandLine, CommandLine::Text, CommandLine::Mistake> CommandLine::
         return Mistake{oneLine(error.what())};
     }
 
+    if (recordOption->count() > 0) line.record = record;
     if (simulateOption->count() > 0) line.simulate = simulate;
     if (playOption->count() > 0) line.play = play;
     if (screenshotOption->count() > 0) line.screenshot = screenshot;

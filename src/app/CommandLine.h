@@ -13,6 +13,8 @@ namespace vantrel::app {
 struct CommandLine {
     // The diagnostic report instead of the interface.
     bool probe = false;
+    // What the probe sees becomes a desk file with this name.
+    std::optional<std::string> record;
     // Real monitors unless this is set: a desk file or the name of a shipped
     // desk; empty for the default desk.
     std::optional<std::string> simulate;

@@ -12,7 +12,8 @@ class Computer {
     virtual ~Computer() = default;
     // Where its system keeps log lines; null when it keeps none.
     virtual platform::LogSink* systemLog() = 0;
-    // Once. The log outlives everything that uses the platform, and so does the computer.
+    // Once. The computer outlives everything that uses the platform, and the log the
+    // computer, which may have something to say when it goes.
     virtual platform::Platform platform(platform::LogSink& log) = 0;
 };
 

@@ -43,7 +43,7 @@ int Interface::run(const CommandLine& line, std::optional<simulated::Desk> desk,
     runtime::RealScheduler real;
     runtime::WakingScheduler scheduler(real);
     runtime::MainLoop loop(scheduler);
-    const auto computer = Computers::make(line, std::move(desk), Computers::Settings::kept, scheduler, loop);
+    auto computer = Computers::make(line, std::move(desk), Computers::Settings::kept, scheduler, loop);
     ProgramLog log(computer->systemLog(), line.log, scheduler, errors);
     platform::Platform platform = computer->platform(log);
     qt::QtToolkit toolkit(loop);
@@ -57,6 +57,7 @@ int Interface::run(const CommandLine& line, std::optional<simulated::Desk> desk,
     }
     // What was set last still reaches its monitor.
     scheduler.finishThreads();
+    computer.reset();
     return ExitStatus::success;
 }
 

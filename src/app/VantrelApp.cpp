@@ -13,11 +13,17 @@
 #include "app/ExitStatus.h"
 #include "app/Interface.h"
 #include "app/ProgramLog.h"
+#include "app/RecordedDesk.h"
 #include "app/ShippedStories.h"
 #include "app/StoryCheck.h"
 #include "app/StoryPlayer.h"
 #include "app/ThisComputer.h"
 #include "ddc/Probe.h"
+#include "platform/posix/NewFile.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "platform/recording/RecordingPlatform.h"
+#include "platform/simulated/DeskFile.h"
+#include "platform/simulated/DeskWriter.h"
 #include "platform/simulated/ShippedDesks.h"
 #include "platform/simulated/VirtualTime.h"
 #include "runtime/RealScheduler.h"
@@ -81,16 +87,35 @@ std::unique_ptr<runtime::Scheduler> makeScheduler(const CommandLine& line) {
     return std::make_unique<runtime::RealScheduler>();
 }
 
-void probe(const CommandLine& line, std::optional<simulated::Desk> desk, std::ostream& output,
-           std::ostream& errors) {
+// Gives the desk file of what it saw, for whoever asked for one.
+std::string probe(const CommandLine& line, std::optional<simulated::Desk> desk, std::ostream& output,
+                  std::ostream& errors) {
     const auto scheduler = makeScheduler(line);
     runtime::MainLoop loop(*scheduler);
-    const auto computer =
-        Computers::make(line, std::move(desk), Computers::Settings::forgotten, *scheduler, loop);
+    auto computer = Computers::make(line, std::move(desk), Computers::Settings::forgotten, *scheduler, loop);
     ProgramLog log(computer->systemLog(), line.log, *scheduler, errors);
     platform::Platform platform = computer->platform(log);
-    ddc::Probe::run(platform, output);
+    std::string recorded;
+    if (line.record) {
+        recording::RecordingPlatform recorder(platform);
+        platform::Platform watched = recorder.platform();
+        ddc::Probe::run(watched, output);
+        recorded = simulated::DeskWriter::text(RecordedDesk::make(watched, recorder.recording()));
+    } else {
+        ddc::Probe::run(platform, output);
+    }
     scheduler->finishThreads();
+    computer.reset();
+    return recorded;
+}
+
+// Why this desk file could not be replayed; nothing: it can.
+std::optional<std::string> mistakeIn(const std::string& deskFile, const std::string& name) {
+    constexpr std::size_t most = simulated::DeskFile::maximumBytes;
+    if (deskFile.size() > most) return name + ": would be larger than " + std::to_string(most) + " bytes";
+    const auto desk = simulated::DeskFile::readText(deskFile, name);
+    if (const auto* mistake = std::get_if<simulated::FileError>(&desk)) return mistake->line();
+    return std::nullopt;
 }
 
 }  // namespace
@@ -123,7 +148,23 @@ int VantrelApp::runInterface(const CommandLine& line) {
 int VantrelApp::runProbe(const CommandLine& line) {
     auto place = findPlace(line);
     if (const auto* mistake = std::get_if<std::string>(&place)) return fail(*mistake);
+    if (line.record) return recordProbe(line, std::get<Place>(std::move(place)));
     probe(line, std::get<Place>(std::move(place)), output_, errors_);
+    return ExitStatus::success;
+}
+
+int VantrelApp::recordProbe(const CommandLine& line, std::optional<simulated::Desk> desk) {
+    posix::PosixFileSystem files;
+    posix::NewFile file(files, *line.record);
+    // A probe takes its time: better said before it.
+    if (const auto obstacle = file.obstacle()) return fail("can't record into " + *obstacle);
+    const std::string recorded = probe(line, std::move(desk), output_, errors_);
+    auto mistake = mistakeIn(recorded, *line.record);
+    if (!mistake) mistake = file.write(recorded);
+    if (mistake) return fail("can't record into " + *mistake);
+    errors_ << "vantrel: " << *line.record
+            << " holds what the monitors answered, under serial numbers that mean nothing: attach it to a "
+               "report; --simulate replays it\n";
     return ExitStatus::success;
 }
 

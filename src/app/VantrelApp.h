@@ -3,9 +3,12 @@
 #pragma once
 
 #include <istream>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
+
+#include "platform/simulated/Desk.h"
 
 namespace vantrel::app {
 
@@ -24,6 +27,7 @@ class VantrelApp {
     int run(const CommandLine& line);
     int runInterface(const CommandLine& line);
     int runProbe(const CommandLine& line);
+    int recordProbe(const CommandLine& line, std::optional<simulated::Desk> desk);
     int runStory(const CommandLine& line);
     int parseCapabilities(const std::string& path);
     // One line for the user.

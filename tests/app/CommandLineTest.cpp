@@ -87,6 +87,24 @@ TEST(CommandLine, RefusesALooseWordByName) {
               "The following argument was not expected: two (see --help)");
 }
 
+TEST(CommandLine, RecordsAProbe) {
+    EXPECT_EQ(parsed({"--probe"}).record, std::nullopt);
+    EXPECT_EQ(parsed({"--probe", "--record", "desk.json"}).record, "desk.json");
+    EXPECT_EQ(parsed({"--simulate", "--probe", "--record", "desk.json"}).record, "desk.json");
+}
+
+TEST(CommandLine, RecordsNothingButAProbe) {
+    EXPECT_EQ(mistakeOf({"--record", "desk.json"}),
+              "--record needs --probe, which is what is recorded (see --help)");
+    EXPECT_EQ(mistakeOf({"--play", "wake", "--record", "desk.json"}),
+              "--record needs --probe, which is what is recorded (see --help)");
+}
+
+TEST(CommandLine, WantsAFileToRecordInto) {
+    EXPECT_EQ(mistakeOf({"--probe", "--record", ""}), "--record: no file is given (see --help)");
+    EXPECT_EQ(mistakeOf({"--probe", "--record"}), "--record: 1 required FILE missing (see --help)");
+}
+
 TEST(CommandLine, RefusesVirtualTimeForRealMonitors) {
     EXPECT_EQ(mistakeOf({"--virtual-time"}),
               "--virtual-time needs --simulate: real monitors answer in real time (see --help)");

@@ -38,7 +38,7 @@ TEST(DeskReader, ReadsADisplay) {
     const DisplayPlan display = onlyDisplay(
         R"({"title": "T", "displays": [{"id": "0xFFFFFFFF", "name": "M", "isBuiltIn": true, "vendor": "0x0472",
             "product": 1922, "serial": 4294967295, "edidUUID": "U", "width": 1, "height": 65535,
-            "transferTableCapacity": 0, "brightness": 0.25, "isConnected": false}]})");
+            "transferTableCapacity": 0, "brightness": 0.25, "isConnected": false, "isOn": false}]})");
     EXPECT_EQ(display.id, 0xFFFFFFFFU);
     EXPECT_EQ(display.name, "M");
     EXPECT_TRUE(display.isBuiltIn);
@@ -51,6 +51,7 @@ TEST(DeskReader, ReadsADisplay) {
     EXPECT_EQ(display.transferTableCapacity, 0U);
     EXPECT_EQ(display.brightness, 0.25F);
     EXPECT_FALSE(display.isConnected);
+    EXPECT_FALSE(display.isOn);
     EXPECT_FALSE(display.monitor);
 }
 
@@ -64,6 +65,7 @@ TEST(DeskReader, GivesADisplayThatSaysLittleItsDefaults) {
     EXPECT_EQ(display.transferTableCapacity, 256U);
     EXPECT_EQ(display.brightness, std::nullopt);
     EXPECT_TRUE(display.isConnected);
+    EXPECT_TRUE(display.isOn);
     EXPECT_FALSE(display.monitor);
 }
 

@@ -31,6 +31,16 @@ TEST(World, ListsConnectedDisplaysInTheOrderOfTheDesk) {
     EXPECT_EQ(DeskBench(desk).online(), (IDs{3, 1}));
 }
 
+TEST(World, StartsWithTheOutputsOffThatTheDeskSays) {
+    Desk desk = ordinaryDesk();
+    desk.displays[1].isOn = false;
+    DeskBench bench(desk);
+    EXPECT_EQ(bench.online(), (IDs{1, 3}));
+    EXPECT_EQ(bench.write(bench.service(), get10), 0);
+    bench.world().setOutput(2, Output::on);
+    EXPECT_EQ(bench.online(), (IDs{1, 2, 3}));
+}
+
 TEST(World, TellsOfAnUnpluggedDisplayWithABeginPhaseAndARemove) {
     DeskBench bench;
     bench.world().unplug(2);

@@ -14,7 +14,8 @@ from tree import Finding
 ROOMS = "src/CMakeLists.txt"
 # The room that chooses the implementation of the platform, and the implementations.
 APPLICATION = "src/app"
-IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/posix", "src/platform/macos", "src/platform/linux")
+IMPLEMENTATIONS = ("src/platform/simulated", "src/platform/recording", "src/platform/posix", "src/platform/macos",
+                   "src/platform/linux")
 
 # The rooms for each toolkit, by how its headers begin.
 _MACOS = ("src/platform/macos", "src/ui/appkit")

@@ -13,6 +13,10 @@ _MUTTER = "a piece of MutterDesktop, whose tests go through a service on a bus t
 # Sources without a test of their own, and why that is enough.
 UNTESTED = {
     "src/runtime/Fatal.cpp": "every death test of the other types goes through it",
+    "src/platform/linux/randr/CrtcTables.cpp": "RandRDesktop's tests of tables go through it",
+    "src/platform/linux/randr/Layout.cpp": "RandRDesktop's tests see what is read, beside what xrandr reads",
+    "src/platform/linux/randr/OutputSwitch.cpp": "RandRDesktop's tests turn outputs off and on through it",
+    "src/platform/linux/randr/Picture.cpp": "a piece of Placement, whose test writes and reads it",
     "src/ui/qt/DividerItem.cpp": "a line, which the gallery's pictures show",
     "src/ui/qt/EmbeddingTray.cpp": "the tests of the whole program on a desktop bring such a tray late",
     "src/ui/qt/ItemFactory.cpp": "QtCanvas's test shows every kind of node through it",

@@ -72,36 +72,35 @@ void Inventory::look() {
 
 void Inventory::findAdapters(Displays& displays) {
     std::set<I2CDevices::Bus> found;
-    std::set<I2CDevices::Bus> used;
     for (Display& display : displays) {
+        if (display.connector.isBuiltIn()) continue;
         display.adapter = Adapters::ofConnector(sysfs_, display.connector);
         if (display.adapter) found.insert(display.adapter->bus);
     }
-    used = found;
     std::map<std::string, Asked> asked;
     for (Display& display : displays) {
         if (display.adapter || display.connector.isBuiltIn()) continue;
-        const auto before = asked_.find(display.connector.folder);
-        const bool isKnown = before != asked_.end() &&
-                             before->second.connector.edid == display.connector.edid &&
-                             before->second.adapter && isThere(*before->second.adapter);
-        if (isKnown) {
-            display.adapter = before->second.adapter;
-        } else {
-            auto candidates = Adapters::ofDevice(sysfs_, display.connector.device);
-            std::erase_if(candidates,
-                          [&found](const Adapter& adapter) { return found.contains(adapter.bus); });
-            for (const Adapter& candidate : candidates) used.insert(candidate.bus);
-            buses_.keepBuses(used);
-            display.adapter = Adapters::withEDID(buses_, candidates, display.connector.edid);
-        }
-        if (display.adapter) {
-            found.insert(display.adapter->bus);
-            asked.insert_or_assign(display.connector.folder, Asked{display.connector, display.adapter});
-        }
+        display.adapter = adapterByAsking(display.connector, found);
+        if (!display.adapter) continue;
+        found.insert(display.adapter->bus);
+        asked.emplace(display.connector.folder, Asked{display.connector.edid, *display.adapter});
     }
     asked_ = std::move(asked);
     buses_.keepBuses(found);
+}
+
+std::optional<Adapter> Inventory::adapterByAsking(const Connector& connector,
+                                                  const std::set<I2CDevices::Bus>& others) {
+    if (const auto before = asked_.find(connector.folder); before != asked_.end()) {
+        const auto& [edid, adapter] = before->second;
+        if (edid == connector.edid && isThere(adapter) && !others.contains(adapter.bus)) return adapter;
+    }
+    auto candidates = Adapters::ofDevice(sysfs_, connector.device);
+    std::erase_if(candidates, [&others](const Adapter& adapter) { return others.contains(adapter.bus); });
+    std::set<I2CDevices::Bus> used = others;
+    for (const Adapter& candidate : candidates) used.insert(candidate.bus);
+    buses_.keepBuses(used);
+    return Adapters::withEDID(buses_, candidates, connector.edid);
 }
 
 std::shared_ptr<const Inventory::Displays> Inventory::displays() const {

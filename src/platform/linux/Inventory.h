@@ -12,6 +12,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,7 @@ class Inventory {
         Connector connector;
         // Nothing when it can't be read.
         std::optional<EDID> edid;
+        // Nothing for a built-in panel, whatever its bus.
         std::optional<Adapter> adapter;
         bool operator==(const Display&) const = default;
     };
@@ -51,11 +53,14 @@ class Inventory {
   private:
     // Main thread. What was found out by asking the monitor.
     struct Asked {
-        Connector connector;
-        std::optional<Adapter> adapter;
+        std::vector<std::uint8_t> edid;
+        Adapter adapter;
     };
 
     void findAdapters(Displays& displays);
+    // `others` lead to other monitors.
+    std::optional<Adapter> adapterByAsking(const Connector& connector,
+                                           const std::set<I2CDevices::Bus>& others);
 
     const Sysfs& sysfs_;
     BoundedI2C& buses_;

@@ -23,7 +23,7 @@ LinuxPlatform::LinuxPlatform(const Parts& parts, platform::LogSink& sink, runtim
       workspace_(parts.session),
       obstacles_(inventory_, displays_, answers_, parts.nodes, parts.desktop) {}
 
-LinuxPlatform::~LinuxPlatform() { tables_.restore(); }
+LinuxPlatform::~LinuxPlatform() { tables_.restoreOwn(); }
 
 platform::Platform LinuxPlatform::platform() {
     return {scheduler_,      mainLoop_,  displays_,        registry_,        functions_, baseTables_,

@@ -6,7 +6,7 @@
 // Threads: main thread; what `platform` hands out keeps the seam's own rules.
 // Lifetime: one at a time. Scheduler, loop and everything in Parts outlive it; it outlives
 // everything that uses its platform, so finish the scheduler's threads before it goes. When it
-// goes, the transfer tables are what they were before it.
+// goes, the transfer tables that it set are what they were before.
 #pragma once
 
 #include "platform/Platform.h"

@@ -55,14 +55,20 @@ void TransferTables::set(const std::string& output, const TransferTable& table) 
 }
 
 void TransferTables::restore() {
-    // What a program noted that ended without restoring it.
     for (const auto& [output, text] : memory_.tables()) {
-        const auto table = read(text);
-        if (table && !found_.contains(output)) desktop_.setTable(output, *table);
+        if (found_.contains(output)) continue;
+        if (const auto table = read(text)) desktop_.setTable(output, *table);
+        memory_.forgetTable(output);
     }
-    for (const auto& [output, table] : found_) desktop_.setTable(output, table);
+    restoreOwn();
+}
+
+void TransferTables::restoreOwn() {
+    for (const auto& [output, table] : found_) {
+        desktop_.setTable(output, table);
+        if (desktop_.keepsTables()) memory_.forgetTable(output);
+    }
     found_.clear();
-    for (const auto& [output, text] : memory_.tables()) memory_.forgetTable(output);
 }
 
 }  // namespace vantrel::linux

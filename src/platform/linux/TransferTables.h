@@ -19,8 +19,11 @@ class TransferTables {
 
     std::optional<platform::TransferTable> table(const std::string& output) { return desktop_.table(output); }
     void set(const std::string& output, const platform::TransferTable& table);
-    // Gives every output back what it had.
+    // Gives every output back what it had before this program set it, or one that ended
+    // without a word.
     void restore();
+    // Gives those back that this program set: what is noted besides may be another's that runs.
+    void restoreOwn();
 
   private:
     Desktop& desktop_;

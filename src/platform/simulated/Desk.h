@@ -2,6 +2,7 @@
 // a desk file says. Plain data; DeskFile reads it, SimulatedPlatform runs it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -10,6 +11,7 @@
 
 #include "platform/DisplayServices.h"
 #include "platform/Registry.h"
+#include "platform/Transfer.h"
 #include "platform/simulated/Personality.h"
 
 namespace vantrel::simulated {
@@ -35,12 +37,18 @@ struct InputPlan {
 };
 
 struct MonitorPlan {
+    // What a recording holds at most: far more than a monitor's answers to a probe.
+    static constexpr std::size_t mostTransfers = 10'000;
+    static constexpr std::uint32_t longestTransfer = 1024;
+
     // Without VCP 60, which comes from `inputs` when there are any.
     std::map<std::uint8_t, FeaturePlan> features;
     // The capabilities string as bytes; nothing: the request is never answered.
     std::optional<std::string> capabilities;
     std::optional<InputPlan> inputs;
     Personality personality;
+    // What a monitor was seen to answer once, in order; see Tape.
+    std::vector<platform::Transfer> recording;
     bool operator==(const MonitorPlan&) const = default;
 };
 
@@ -62,8 +70,11 @@ struct DisplayPlan {
     std::optional<float> brightness;
     // Whether the display is plugged in when the desk starts.
     bool isConnected = true;
+    // Whether the computer's output to it is on when the desk starts.
+    bool isOn = true;
     // Nothing: the cable passes no DDC/CI, or there is no monitor to speak it.
     std::optional<MonitorPlan> monitor;
+    bool operator==(const DisplayPlan&) const = default;
 };
 
 // One entry of the registry's walk.
@@ -76,6 +87,7 @@ struct RegistryEntryPlan {
     platform::DisplayID display = 0;
     // Exactly what the entry shows; for a disconnected display it shows nothing.
     platform::PropertyDictionary properties;
+    bool operator==(const RegistryEntryPlan&) const = default;
 };
 
 struct Desk {
@@ -88,6 +100,7 @@ struct Desk {
     std::vector<RegistryEntryPlan> registry;
     // Private functions that this system does not have.
     std::vector<std::string> missingSymbols;
+    bool operator==(const Desk&) const = default;
 };
 
 }  // namespace vantrel::simulated

@@ -60,6 +60,7 @@ const ObjectShape<DisplayPlan>& displayShape() {
              into(&D::transferTableCapacity, count(std::uint32_t{0}, largestTransferTable))},
             {"brightness", into(&D::brightness, brightness)},
             {"isConnected", into(&D::isConnected, flag)},
+            {"isOn", into(&D::isOn, flag)},
             {"monitor", into(&D::monitor, monitor)},
         },
         {}};

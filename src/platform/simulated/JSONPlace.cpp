@@ -115,11 +115,14 @@ std::optional<std::string> JSONPlace::bytes() const {
     for (const auto& [key, place] : members()) {
         if (key != "hex") place.report("is not a known field");
     }
-    const JSONPlace hex = member("hex");
-    const std::optional<std::string> digits = hex.text();
+    return member("hex").hexBytes();
+}
+
+std::optional<std::string> JSONPlace::hexBytes() const {
+    const std::optional<std::string> digits = text();
     if (!digits) return std::nullopt;
     std::optional<std::string> result = parseHexBytes(*digits);
-    if (!result) hex.report(JSONText::inQuotes(*digits) + " is not pairs of hexadecimal digits");
+    if (!result) report(JSONText::inQuotes(*digits) + " is not pairs of hexadecimal digits");
     return result;
 }
 

@@ -32,6 +32,8 @@ class JSONPlace {
     std::optional<std::string> text() const;
     // Bytes as {"hex": "28 70 ..."}, or a text's own bytes.
     std::optional<std::string> bytes() const;
+    // Bytes as a text like "28 70".
+    std::optional<std::string> hexBytes() const;
 
     std::vector<JSONPlace> elements() const;
     std::vector<std::pair<std::string, JSONPlace>> members() const;

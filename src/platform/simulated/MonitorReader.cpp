@@ -6,6 +6,7 @@
 
 #include "platform/simulated/ObjectShape.h"
 #include "platform/simulated/PersonalityReader.h"
+#include "platform/simulated/RecordingReader.h"
 #include "platform/simulated/ValueReaders.h"
 #include "text/Hex.h"
 
@@ -115,6 +116,7 @@ const ObjectShape<MonitorPlan>& monitorShape() {
             {"features", into(&MonitorPlan::features, features)},
             {"inputs", into(&MonitorPlan::inputs, inputShape())},
             {"personality", into(&MonitorPlan::personality, PersonalityReader::read)},
+            {"recording", into(&MonitorPlan::recording, RecordingReader::read)},
         },
         checkMonitor};
     return shape;
@@ -127,6 +129,7 @@ std::optional<MonitorPlan> read(const JSONPlace& place) { return monitorShape()(
 std::vector<DeskFile::Words> vocabulary() {
     std::vector<DeskFile::Words> result{monitorShape().words(), featureShape().words(), inputShape().words()};
     for (DeskFile::Words& words : PersonalityReader::vocabulary()) result.push_back(std::move(words));
+    for (DeskFile::Words& words : RecordingReader::vocabulary()) result.push_back(std::move(words));
     return result;
 }
 

@@ -14,18 +14,24 @@ using runtime::MonotonicTime;
 constexpr std::uint64_t busStream = 0;
 constexpr std::uint64_t firmwareStream = 1;
 
+// The standard's code for "Input Select".
+constexpr std::uint8_t inputSelect = 0x60;
+
 }  // namespace
 
 // Occupies the bus for one transfer.
 class SimulatedMonitor::Transfer {
   public:
-    Transfer(SimulatedMonitor& monitor, std::size_t bytes) : monitor_(monitor) {
+    // For as long as it was recorded, if it was.
+    Transfer(SimulatedMonitor& monitor, std::size_t bytes, const platform::Transfer* recorded)
+        : monitor_(monitor) {
         const bool overlaps = monitor_.transfers_.fetch_add(1) > 0;
         Duration busy{0};
         {
             const std::lock_guard lock(monitor_.mutex_);
             if (overlaps) ++monitor_.counters_.overlaps;
-            busy = monitor_.manner_.byteTime * static_cast<Duration::rep>(bytes);
+            busy = recorded != nullptr ? recorded->took
+                                       : monitor_.manner_.byteTime * static_cast<Duration::rep>(bytes);
         }
         if (busy > Duration::zero()) monitor_.clock_.sleepFor(busy);
     }
@@ -43,18 +49,25 @@ SimulatedMonitor::SimulatedMonitor(const MonitorPlan& plan, const Random& random
       random_(random.fork(busStream)),
       firmware_(plan, random.fork(firmwareStream), counters_),
       manner_{plan.personality.byteTime, plan.personality.dead, Occasions(plan.personality.nak),
-              plan.personality.nakDuring, plan.personality.staleAfterReconfiguration} {}
+              plan.personality.nakDuring, plan.personality.staleAfterReconfiguration},
+      tape_(plan.recording) {}
 
 std::int32_t SimulatedMonitor::write(std::uint32_t chip, std::uint32_t source,
                                      std::span<const std::uint8_t> bytes) {
-    const Transfer transfer(*this, bytes.size());
+    const platform::Transfer* recorded = nullptr;
+    {
+        const std::lock_guard lock(mutex_);
+        if (power_ == Power::on) recorded = tape_.write(chip, source, bytes);
+    }
+    const Transfer transfer(*this, bytes.size(), recorded);
     std::unique_lock lock(mutex_);
     const MonotonicTime now = clock_.now();
     ++counters_.writes;
     MonitorFirmware::Received received{false, std::nullopt};
     if (acknowledges(chip, now)) received = firmware_.receive(source, bytes, now);
-    if (!received.isAcknowledged) ++counters_.notAcknowledged;
-    const std::int32_t status = received.isAcknowledged ? Status::success : Status::notResponding;
+    std::int32_t status = received.isAcknowledged ? Status::success : Status::notResponding;
+    if (recorded != nullptr) status = recorded->status;
+    if (status != Status::success) ++counters_.notAcknowledged;
     record({now, WireRecord::Direction::write, Bytes(bytes.begin(), bytes.end()), status});
     lock.unlock();
     if (received.pulse && pulseListener_) pulseListener_(*received.pulse);
@@ -62,19 +75,30 @@ std::int32_t SimulatedMonitor::write(std::uint32_t chip, std::uint32_t source,
 }
 
 std::int32_t SimulatedMonitor::read(std::uint32_t chip, std::span<std::uint8_t> bytes) {
-    const Transfer transfer(*this, bytes.size());
+    const platform::Transfer* recorded = nullptr;
+    {
+        const std::lock_guard lock(mutex_);
+        if (power_ == Power::on) recorded = tape_.read(chip, bytes.size());
+    }
+    const Transfer transfer(*this, bytes.size(), recorded);
     const std::lock_guard lock(mutex_);
     const MonotonicTime now = clock_.now();
     ++counters_.reads;
-    if (!acknowledges(chip, now)) {
-        ++counters_.notAcknowledged;
-        record({now, WireRecord::Direction::read, {}, Status::notResponding});
-        return Status::notResponding;
-    }
+    std::int32_t status = acknowledges(chip, now) ? Status::success : Status::notResponding;
     // Without a byte on the bus nothing is taken from the monitor.
-    if (!bytes.empty()) firmware_.takeReply(now).copyTo(bytes);
-    record({now, WireRecord::Direction::read, Bytes(bytes.begin(), bytes.end()), Status::success});
-    return Status::success;
+    if (status == Status::success && !bytes.empty()) {
+        const Reply own = firmware_.takeReply(now);
+        if (recorded == nullptr) own.copyTo(bytes);
+    }
+    if (recorded != nullptr) {
+        status = recorded->status;
+        std::copy(recorded->bytes.begin(), recorded->bytes.end(), bytes.begin());
+    }
+    const bool isSuccess = status == Status::success;
+    if (!isSuccess) ++counters_.notAcknowledged;
+    record(
+        {now, WireRecord::Direction::read, isSuccess ? Bytes(bytes.begin(), bytes.end()) : Bytes(), status});
+    return status;
 }
 
 bool SimulatedMonitor::acknowledges(std::uint32_t chip, MonotonicTime now) {
@@ -105,6 +129,7 @@ void SimulatedMonitor::pressInputButton(std::uint16_t input) {
     std::optional<Pulse> pulse;
     {
         const std::lock_guard lock(mutex_);
+        tape_.changed(inputSelect);
         pulse = firmware_.pressInputButton(input, clock_.now());
     }
     if (pulse && pulseListener_) pulseListener_(*pulse);
@@ -112,12 +137,14 @@ void SimulatedMonitor::pressInputButton(std::uint16_t input) {
 
 void SimulatedMonitor::adjust(std::uint8_t code, std::uint16_t value) {
     const std::lock_guard lock(mutex_);
+    tape_.changed(code);
     firmware_.adjust(code, value);
 }
 
 void SimulatedMonitor::becomeHealthy() {
     const std::lock_guard lock(mutex_);
     manner_ = BusManner();
+    tape_.stop();
     firmware_.becomeHealthy(clock_.now());
 }
 

@@ -2,7 +2,8 @@
 // its MonitorFirmware, on a bus.
 //
 // A transfer that is not acknowledged has a status other than 0. A monitor that
-// is silent acknowledges everything, obeys nothing and gives null messages.
+// is silent acknowledges everything, obeys nothing and gives null messages. A monitor
+// with a recording hears everything too, but its Tape goes before its own answers.
 //
 // Threads: any; transfers must not overlap (they are counted when they do).
 // Time: a transfer blocks its caller through the clock for as long as the bus is
@@ -19,6 +20,7 @@
 #include <vector>
 
 #include "platform/simulated/MonitorFirmware.h"
+#include "platform/simulated/Tape.h"
 #include "runtime/Clock.h"
 
 namespace vantrel::simulated {
@@ -86,6 +88,7 @@ class SimulatedMonitor {
     Random random_;
     MonitorFirmware firmware_;
     BusManner manner_;
+    Tape tape_;
     Power power_ = Power::on;
     bool isTracing_ = false;
     std::vector<WireRecord> trace_;

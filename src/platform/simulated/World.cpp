@@ -24,6 +24,7 @@ World::World(Desk desk, runtime::Scheduler& scheduler, runtime::MainLoop& mainLo
         runtime::require(isNew, "two displays of a desk have the same id");
         State& state = place->second;
         state.isPluggedIn = plan.isConnected;
+        state.output = plan.isOn ? Output::on : Output::off;
         state.brightness = plan.brightness.value_or(0);
         if (plan.monitor) {
             state.monitor =
