@@ -24,7 +24,8 @@ TOOLKITS = {
     **{header: _MACOS for header in (
         "AppKit/", "CoreFoundation/", "CoreGraphics/", "Foundation/", "IOKit/", "ServiceManagement/", "dispatch/",
         "dlfcn.h", "mach/", "objc/", "os/", "pthread/")},
-    **{header: ("src/platform/linux",) for header in ("libudev.h", "linux/", "sys/epoll.h", "systemd/")},
+    **{header: ("src/platform/linux",) for header in ("libudev.h", "linux/", "sys/epoll.h", "sys/eventfd.h", "systemd/")},
+    "wayland-": ("src/platform/linux/wayland",),
 }
 
 # What a library of the system is included as, and what has to be linked for it: one
@@ -35,6 +36,7 @@ LIBRARIES = {
     "utf8proc.h": "PkgConfig::utf8proc",
     "xcb/randr.h": "PkgConfig::xcb_randr",
     "xcb/": ("PkgConfig::xcb", "PkgConfig::xcb_randr"),
+    "wayland-": "PkgConfig::wayland-client",
     "systemd/": "PkgConfig::systemd",
     "libudev.h": "PkgConfig::udev",
     "QSvg": "Qt6::Svg",

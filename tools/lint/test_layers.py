@@ -12,6 +12,7 @@ vantrel_room(simulated FOLDER platform/simulated
 vantrel_room(posix FOLDER platform/posix LINKS vantrel_platform)
 vantrel_room(macos FOLDER platform/macos LINKS vantrel_platform)
 vantrel_room(linux FOLDER platform/linux LINKS vantrel_platform)
+vantrel_room(wayland FOLDER platform/linux/wayland LINKS vantrel_linux PkgConfig::wayland-client)
 vantrel_room(randr FOLDER platform/linux/randr LINKS vantrel_linux PkgConfig::xcb_randr)
 vantrel_room(qt FOLDER ui/qt LINKS vantrel_runtime Qt6::Widgets Qt6::Svg PkgConfig::xcb)
 vantrel_room(app LINKS vantrel_simulated vantrel_posix vantrel_randr vantrel_qt CLI11::CLI11 $<$<PLATFORM_ID:Darwin>:vantrel_macos>)
@@ -62,6 +63,14 @@ class LayersTest(unittest.TestCase):
         (reason,) = reasons("src/ui/qt/QtPopover.cpp", include)
         self.assertIn("<xcb/randr.h>", reason)
         self.assertEqual(len(reasons("src/platform/linux/Desktop.h", include)), 2)
+
+    def test_what_is_one_desktops_is_named_by_its_own_room_only(self):
+        include = "#include <wayland-client.h>\n"
+        self.assertEqual(reasons("src/platform/linux/wayland/Connection.cpp", include), [])
+        self.assertEqual(len(reasons("src/platform/linux/Descriptors.h", include)), 1)
+        self.assertEqual(len(reasons("src/platform/linux/randr/Connection.cpp", include)), 1)
+        include = '#include "platform/linux/wayland/WaylandDesktop.h"\n'
+        self.assertEqual(len(reasons("src/platform/linux/randr/RandRDesktop.h", include)), 1)
 
     def test_a_library_has_to_be_linked_too(self):
         include = "#include <nlohmann/json.hpp>\n"

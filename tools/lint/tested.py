@@ -6,6 +6,10 @@ from tree import Finding
 
 _MONITOR = "a piece of SimulatedMonitor, whose test goes through the bus to see every byte of it"
 
+_COMPOSITOR = "a piece of WaylandDesktop, whose tests go through a compositor to see what each protocol says"
+
+_MUTTER = "a piece of MutterDesktop, whose tests go through a service on a bus to see what is said to it"
+
 # Sources without a test of their own, and why that is enough.
 UNTESTED = {
     "src/runtime/Fatal.cpp": "every death test of the other types goes through it",
@@ -23,6 +27,10 @@ UNTESTED = {
     "src/ui/qt/QtView.cpp": "every test of an item shows it in one",
     "src/ui/qt/ScrollView.cpp": "the widget of ScrollItem, whose test scrolls it",
     "src/ui/qt/SliderWidget.cpp": "the widget of SliderItem, whose test moves it in every way",
+    **{f"src/platform/linux/wayland/{name}.cpp": _COMPOSITOR for name in (
+        "Connection", "CoreOutput", "Globals", "KDEDevice", "KDEOutputManagement", "OutputTable", "Proxy", "WlrHead",
+        "WlrOutputManagement")},
+    **{f"src/platform/linux/mutter/{name}.cpp": _MUTTER for name in ("DisplayConfig", "DisplayState", "MessageReader")},
     "src/platform/simulated/Announcements.cpp": "a piece of World, whose test watches what it announces",
     "src/platform/simulated/Frame.cpp": _MONITOR,
     "src/platform/simulated/MonitorFirmware.cpp": _MONITOR,

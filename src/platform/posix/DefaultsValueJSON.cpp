@@ -6,8 +6,8 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
-#include "platform/posix/Base64.h"
 #include "platform/posix/BoundedJSON.h"
+#include "text/Base64.h"
 #include "text/UTF8.h"
 
 namespace vantrel::posix::DefaultsValueJSON {
@@ -31,7 +31,7 @@ struct Encoder {
     JSON operator()(const DefaultsData& data) const {
         if (auto json = BoundedJSON::parse(data.bytes, deepestData); json && json->dump() == data.bytes)
             return tagged("json", std::move(*json));
-        return tagged("base64", Base64::encode(data.bytes));
+        return tagged("base64", text::Base64::encode(data.bytes));
     }
     JSON operator()(std::int64_t integer) const { return tagged("integer", integer); }
     JSON operator()(const std::string& text) const { return tagged("text", text::repairedUTF8(text)); }
@@ -73,7 +73,7 @@ std::optional<DefaultsValue> decodedDictionary(const JSON& json) {
 
 std::optional<DefaultsValue> decodedBase64(const JSON& json) {
     if (!json.is_string()) return std::nullopt;
-    auto bytes = Base64::decode(json.get_ref<const std::string&>());
+    auto bytes = text::Base64::decode(json.get_ref<const std::string&>());
     if (!bytes) return std::nullopt;
     return DefaultsData{std::move(*bytes)};
 }

@@ -1,8 +1,8 @@
-#include "platform/posix/Base64.h"
+#include "text/Base64.h"
 
 #include <cstdint>
 
-namespace vantrel::posix::Base64 {
+namespace vantrel::text::Base64 {
 namespace {
 
 constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
@@ -44,4 +44,4 @@ std::optional<std::string> decode(std::string_view text) {
     return bytes;
 }
 
-}  // namespace vantrel::posix::Base64
+}  // namespace vantrel::text::Base64

@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-namespace vantrel::posix::Base64 {
+namespace vantrel::text::Base64 {
 
 std::string encode(std::string_view bytes);
 // Nothing unless `text` is exactly what encode() gives for some bytes.
 std::optional<std::string> decode(std::string_view text);
 
-}  // namespace vantrel::posix::Base64
+}  // namespace vantrel::text::Base64

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "platform/posix/Base64.h"
+#include "text/Base64.h"
 
-namespace vantrel::posix {
+namespace vantrel::text {
 namespace {
 
 // RFC 4648, section 10.
@@ -40,4 +40,4 @@ TEST(Base64, RefusesPaddingAlone) { EXPECT_EQ(Base64::decode("===="), std::nullo
 TEST(Base64, RefusesBitsThatNoByteHas) { EXPECT_EQ(Base64::decode("Zh=="), std::nullopt); }
 
 }  // namespace
-}  // namespace vantrel::posix
+}  // namespace vantrel::text

@@ -1,0 +1,57 @@
+# The glue to Wayland's protocols, generated from the descriptions that the system's
+# packages have. It is C, without anything that a compiler here could warn of.
+enable_language(C)
+find_program(VANTREL_WAYLAND_SCANNER wayland-scanner)
+if(NOT VANTREL_WAYLAND_SCANNER)
+  message(FATAL_ERROR "wayland-scanner is missing (Debian: libwayland-bin)")
+endif()
+
+# vantrel_wayland_description(<variable> <name> <package> <glob of its folder>)
+function(vantrel_wayland_description variable name package folder)
+  file(GLOB found ${folder}/${name}.xml)
+  if(NOT found)
+    message(FATAL_ERROR "${name}.xml is missing: none matches ${folder}/${name}.xml (Debian: ${package})")
+  endif()
+  # The newest, should there be several.
+  list(SORT found COMPARE NATURAL ORDER DESCENDING)
+  list(GET found 0 first)
+  set(${variable} ${first} PARENT_SCOPE)
+endfunction()
+
+# vantrel_wayland_glue(<output> <kind> <description>)
+function(vantrel_wayland_glue output kind description)
+  add_custom_command(OUTPUT ${output} COMMAND ${VANTREL_WAYLAND_SCANNER} ${kind} ${description} ${output}
+    DEPENDS ${description} VERBATIM)
+endfunction()
+
+add_library(vantrel_wayland_protocols STATIC)
+# The same for the tests' compositor.
+add_library(vantrel_wayland_server_protocols INTERFACE)
+set(VANTREL_WAYLAND_GLUE ${PROJECT_BINARY_DIR}/generated/wayland)
+file(MAKE_DIRECTORY ${VANTREL_WAYLAND_GLUE}/client/wayland-protocols ${VANTREL_WAYLAND_GLUE}/server/wayland-server-protocols)
+foreach(protocol wlr-gamma-control-unstable-v1 wlr-output-management-unstable-v1 kde-output-device-v2 kde-output-management-v2)
+  if(protocol MATCHES "^wlr-")
+    vantrel_wayland_description(description ${protocol} librust-wayland-protocols-dev
+      "/usr/share/cargo/registry/wayland-protocols-*/wlr-protocols/unstable")
+  else()
+    vantrel_wayland_description(description ${protocol} plasma-wayland-protocols "/usr/share/plasma-wayland-protocols")
+  endif()
+  set(header ${VANTREL_WAYLAND_GLUE}/client/wayland-protocols/${protocol}.h)
+  set(server_header ${VANTREL_WAYLAND_GLUE}/server/wayland-server-protocols/${protocol}.h)
+  set(code ${VANTREL_WAYLAND_GLUE}/${protocol}.c)
+  vantrel_wayland_glue(${header} client-header ${description})
+  vantrel_wayland_glue(${server_header} server-header ${description})
+  vantrel_wayland_glue(${code} private-code ${description})
+  target_sources(vantrel_wayland_protocols PRIVATE ${header} ${code})
+  list(APPEND server_headers ${server_header})
+endforeach()
+add_custom_target(vantrel_wayland_server_headers DEPENDS ${server_headers})
+add_dependencies(vantrel_wayland_server_protocols vantrel_wayland_server_headers)
+target_include_directories(vantrel_wayland_server_protocols SYSTEM INTERFACE ${VANTREL_WAYLAND_GLUE}/server)
+target_link_libraries(vantrel_wayland_server_protocols INTERFACE vantrel_wayland_protocols)
+target_include_directories(vantrel_wayland_protocols SYSTEM PUBLIC ${VANTREL_WAYLAND_GLUE}/client)
+target_link_libraries(vantrel_wayland_protocols PUBLIC PkgConfig::wayland-client)
+if(VANTREL_SANITIZERS)
+  # Tables of constants, by another compiler perhaps.
+  target_compile_options(vantrel_wayland_protocols PRIVATE -fno-sanitize=all)
+endif()
