@@ -355,6 +355,26 @@ TEST_F(MutterDesktopTest, HasNoOutputsWhileMutterIsAway) {
     waitForChange([&] { return desktop->outputs().size() == 3; });
 }
 
+TEST_F(MutterDesktopTest, IsThereAsLongAsMutterIs) {
+    EXPECT_TRUE(desktop->isThere());
+    mutter.change([](MockMutter::Desk& desk) {
+        for (MockScreen& screen : desk.screens) screen.isPlugged = false;
+        desk.logical.clear();
+    });
+    EXPECT_TRUE(desktop->outputs().empty());
+    EXPECT_TRUE(desktop->isThere());
+    mutter.leave();
+    EXPECT_FALSE(desktop->isThere());
+    mutter.comeBack();
+    EXPECT_TRUE(desktop->isThere());
+}
+
+TEST_F(MutterDesktopTest, IsThereWhileMutterSleeps) {
+    mutter.pause();
+    EXPECT_TRUE(desktop->isThere());
+    mutter.goOn();
+}
+
 TEST_F(MutterDesktopTest, GivesUpOnAMutterThatDoesNotAnswer) {
     mutter.run([](MockMutter::Desk& desk) { desk.isSilent = true; });
     EXPECT_FALSE(desktop->darken("DP-1"));
