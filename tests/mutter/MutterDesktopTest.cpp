@@ -1,13 +1,10 @@
 #include <gmock/gmock.h>
 
 #include "mutter/MutterRig.h"
-#include "mutter/PrivateBus.h"
 #include "platform/linux/mutter/MutterDesktop.h"
 
 namespace vantrel::mutter {
 namespace {
-
-const auto* const privateBus = testing::AddGlobalTestEnvironment(new PrivateBus);
 
 class MutterDesktopTest : public MutterRig {
   protected:
