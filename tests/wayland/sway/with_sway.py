@@ -104,18 +104,17 @@ class Compositors:
         return self.start({"WLR_BACKENDS": "headless", "WLR_HEADLESS_OUTPUTS": "3"})
 
     def start_on_device(self):
-        socket = self._folder / "seat"
         ready, tell = os.pipe()
         seat = subprocess.Popen(
             ["setpriv", "--pdeathsig", "KILL", "seatd", "-u", self._user.pw_name, "-n", str(tell)],
-            env={**os.environ, "SEATD_SOCK": str(socket)}, pass_fds=[tell], start_new_session=True,
+            pass_fds=[tell], start_new_session=True,
             stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self._processes.append(seat)
         os.close(tell)
         if not select.select([ready], [], [], PATIENCE)[0] or not os.read(ready, 1):
             raise NoCompositor("seatd does not start")
         os.close(ready)
-        return self.start({"WLR_BACKENDS": "drm", "LIBSEAT_BACKEND": "seatd", "SEATD_SOCK": str(socket)})
+        return self.start({"WLR_BACKENDS": "drm", "LIBSEAT_BACKEND": "seatd"})
 
     def end(self):
         for process in reversed(self._processes):
