@@ -157,7 +157,7 @@ TEST_F(SwitchableSwayDesktopTest, BringsAnOutputBackAsItWas) {
         desktop = open(environment("WAYLAND_DISPLAY"));
         const auto arrangement = desktop->arrangement(name);
         ASSERT_TRUE(arrangement);
-        ASSERT_TRUE(desktop->darken(name));
+        ASSERT_TRUE(desktop->darken(name)) << (isLit(name) ? "refused" : "no answer in time");
         EXPECT_FALSE(isLit(name));
         auto expected = before;
         expected[name].isActive = false;
