@@ -56,7 +56,7 @@ Inventory::Displays pluggedIn(const Sysfs& sysfs) {
         const auto edid = EDID::read(connector.edid);
         const DisplayID id = freeIdentifier(identifier(connector, edid.value_or(EDID())), taken);
         taken.insert(id);
-        displays.push_back({id, std::move(connector), edid, std::nullopt});
+        displays.push_back({id, std::move(connector), edid, std::nullopt, {}});
     }
     return displays;
 }
@@ -85,7 +85,7 @@ void Inventory::findAdapters(Displays& displays) {
     }
     for (Display& display : displays) {
         if (display.adapter || display.connector.isBuiltIn()) continue;
-        display.adapter = ask(display.connector, found);
+        ask(display, found);
         if (!display.adapter) continue;
         note(asked, display);
         found.insert(display.adapter->bus);
@@ -105,13 +105,15 @@ std::optional<Adapter> Inventory::askedBefore(const Connector& connector) const 
     return before->second.adapter;
 }
 
-std::optional<Adapter> Inventory::ask(const Connector& connector, const std::set<I2CDevices::Bus>& others) {
-    auto candidates = Adapters::ofDevice(sysfs_, connector.device);
+void Inventory::ask(Display& display, const std::set<I2CDevices::Bus>& others) {
+    auto candidates = Adapters::ofDevice(sysfs_, display.connector.device);
     std::erase_if(candidates, [&others](const Adapter& adapter) { return others.contains(adapter.bus); });
     std::set<I2CDevices::Bus> used = others;
     for (const Adapter& candidate : candidates) used.insert(candidate.bus);
     buses_.keepBuses(used);
-    return Adapters::withEDID(buses_, candidates, connector.edid);
+    display.adapter = Adapters::withEDID(buses_, candidates, display.connector.edid);
+    if (display.adapter) return;
+    for (const Adapter& candidate : candidates) display.askedInVain.push_back(candidate.bus);
 }
 
 std::shared_ptr<const Inventory::Displays> Inventory::displays() const {
