@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <unistd.h>
 #include <utility>
 
 #include "platform/simulated/Frame.h"
@@ -21,6 +22,8 @@ constexpr const char* card = "/sys/devices/pci0000:00/0000:00:02.0/drm/card0";
 
 constexpr perms everybody = perms::owner_read | perms::owner_write | perms::group_read | perms::group_write |
                             perms::others_read | perms::others_write;
+constexpr perms ownerAndGroup =
+    perms::owner_read | perms::owner_write | perms::group_read | perms::group_write;
 constexpr perms readers = perms::owner_read | perms::group_read | perms::others_read;
 
 constexpr int i2cMajor = 89;
@@ -281,6 +284,13 @@ void EmulatedKernel::denyNode(DisplayID id) {
 
 void EmulatedKernel::allowNode(DisplayID id) {
     std::filesystem::permissions(testbed_.place(node(id)), everybody);
+}
+
+void EmulatedKernel::lendNode(DisplayID id, gid_t group) {
+    const auto place = testbed_.place(node(id));
+    const bool isGiven = ::chown(place.c_str(), static_cast<uid_t>(-1), group) == 0;
+    runtime::require(isGiven, "this user can't give a node to that group");
+    std::filesystem::permissions(place, ownerAndGroup);
 }
 
 int EmulatedKernel::backlight() const {

@@ -16,6 +16,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 #include "linux/kernel/EmulatedBus.h"
@@ -85,6 +86,8 @@ class EmulatedKernel {
     // not have a superuser's rights: withoutSuperuser().
     void denyNode(platform::DisplayID display);
     void allowNode(platform::DisplayID display);
+    // Its owner and the group may.
+    void lendNode(platform::DisplayID display, gid_t group);
 
     // The panel's backlight: its folder below /sys, nothing for a desk without a panel
     // that has a brightness.
