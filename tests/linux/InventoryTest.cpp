@@ -216,6 +216,19 @@ TEST_F(InventoryTest, AsksTheMonitorsForABusThatNothingNames) {
     EXPECT_EQ(busOf("card0-DP-2"), 4);
 }
 
+TEST_F(InventoryTest, KnowsWhoWasAskedInVain) {
+    add("card0-DP-1", 4, Wiring::none);
+    add("card0-DP-2", 5, Wiring::child);
+    add("card0-DP-3", 6, Wiring::none);
+    plug("card0-DP-1", alder);
+    plug("card0-DP-2", birch, 5);
+    EXPECT_EQ(look("card0-DP-1")->askedInVain, (std::vector<I2CDevices::Bus>{4, 6}));
+    EXPECT_TRUE(look("card0-DP-2")->askedInVain.empty());
+    plug("card0-DP-1", alder, 6);
+    EXPECT_EQ(busOf("card0-DP-1"), 6);
+    EXPECT_TRUE(look("card0-DP-1")->askedInVain.empty());
+}
+
 TEST_F(InventoryTest, AsksOnlyTheBusesOfItsDeviceThatAreNobodyElses) {
     add("card0-DP-1", 4, Wiring::child);
     add("card0-DP-2", 5, Wiring::none);

@@ -78,6 +78,26 @@ TEST_F(LinuxObstaclesTest, SaysHowToGetAGroupWhereOnlyRootMayUseTheBus) {
     EXPECT_THAT(found(), ElementsAre(HasSubstr("sudo apt install i2c-tools && sudo usermod")));
 }
 
+// Without the module nobody can be asked where the monitor is, so it seems to be nowhere.
+TEST_F(LinuxObstaclesTest, SaysWhyABusThatNothingNamesWasAskedInVain) {
+    const unsigned unnamed = bus(2);
+    hardware().tree.removeAdapter(unnamed);
+    hardware().tree.addAdapter(unnamed, hardware().place(2).connector, SysfsTree::Wiring::none);
+    hardware().devices.fail(unnamed, ENOENT);
+    hardware().nodes.exceptions[unnamed] = Access::missing;
+    EXPECT_THAT(found(), ElementsAre(HasSubstr("sudo modprobe i2c-dev")));
+    hardware().devices.fail(unnamed, EACCES);
+    hardware().nodes.exceptions[unnamed] = Access::forbidden;
+    EXPECT_THAT(found(), ElementsAre(HasSubstr("sudo usermod")));
+    hardware().devices.fail(unnamed, ENXIO);
+    hardware().nodes.exceptions.clear();
+    EXPECT_THAT(found(), ElementsAre(HasSubstr("Alder has no control channel")));
+    hardware().devices.fail(unnamed, 0);
+    hardware().events.announce();
+    bench.loop.runFor(5s);
+    EXPECT_THAT(found(), IsEmpty());
+}
+
 TEST_F(LinuxObstaclesTest, TellsWhoDoesNotAnswer) {
     hardware().devices.fail(bus(2), ENXIO);
     write(2, 7);

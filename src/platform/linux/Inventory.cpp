@@ -56,7 +56,7 @@ Inventory::Displays pluggedIn(const Sysfs& sysfs) {
         const auto edid = EDID::read(connector.edid);
         const DisplayID id = freeIdentifier(identifier(connector, edid.value_or(EDID())), taken);
         taken.insert(id);
-        displays.push_back({id, std::move(connector), edid, std::nullopt});
+        displays.push_back({id, std::move(connector), edid, std::nullopt, {}});
     }
     return displays;
 }
@@ -81,6 +81,7 @@ void Inventory::findAdapters(Displays& displays) {
     }
     for (Display& display : displays) {
         if (display.adapter || display.connector.isBuiltIn()) continue;
+<<<<<<< HEAD
         display.adapter = askedBefore(display.connector, found);
         if (!display.adapter) continue;
         note(asked, display);
@@ -89,6 +90,9 @@ void Inventory::findAdapters(Displays& displays) {
     for (Display& display : displays) {
         if (display.adapter || display.connector.isBuiltIn()) continue;
         display.adapter = ask(display.connector, found);
+=======
+        ask(display, found);
+>>>>>>> core
         if (!display.adapter) continue;
         note(asked, display);
         found.insert(display.adapter->bus);
@@ -118,13 +122,15 @@ bool Inventory::leadsTo(DisplayID display, const Adapter& adapter) const {
     return !isAnothers && Adapters::isThere(sysfs_, adapter);
 }
 
-std::optional<Adapter> Inventory::ask(const Connector& connector, const std::set<I2CDevices::Bus>& others) {
-    auto candidates = Adapters::ofDevice(sysfs_, connector.device);
+void Inventory::ask(Display& display, const std::set<I2CDevices::Bus>& others) {
+    auto candidates = Adapters::ofDevice(sysfs_, display.connector.device);
     std::erase_if(candidates, [&others](const Adapter& adapter) { return others.contains(adapter.bus); });
     std::set<I2CDevices::Bus> used = others;
     for (const Adapter& candidate : candidates) used.insert(candidate.bus);
     buses_.keepBuses(used);
-    return Adapters::withEDID(buses_, candidates, connector.edid);
+    display.adapter = Adapters::withEDID(buses_, candidates, display.connector.edid);
+    if (display.adapter) return;
+    for (const Adapter& candidate : candidates) display.askedInVain.push_back(candidate.bus);
 }
 
 std::shared_ptr<const Inventory::Displays> Inventory::displays() const {

@@ -33,6 +33,8 @@ class Inventory {
         std::optional<EDID> edid;
         // Nothing for a built-in panel, whatever its bus.
         std::optional<Adapter> adapter;
+        // Of a monitor without an adapter: the buses that may still lead to it, asked in vain.
+        std::vector<I2CDevices::Bus> askedInVain;
         bool operator==(const Display&) const = default;
     };
     using Displays = std::vector<Display>;
@@ -64,7 +66,7 @@ class Inventory {
     std::optional<Adapter> askedBefore(const Connector& connector,
                                        const std::set<I2CDevices::Bus>& others) const;
     // Asks every bus of the graphics device but `others`, which lead to other monitors.
-    std::optional<Adapter> ask(const Connector& connector, const std::set<I2CDevices::Bus>& others);
+    void ask(Display& display, const std::set<I2CDevices::Bus>& others);
 
     const Sysfs& sysfs_;
     BoundedI2C& buses_;

@@ -44,22 +44,16 @@ std::vector<Text> LinuxObstacles::find() {
 
 std::optional<Text> LinuxObstacles::obstacle(const Inventory::Display& display) {
     if (!display.adapter) {
+        for (const I2CDevices::Bus bus : display.askedInVain) {
+            if (auto found = obstacle(bus)) return found;
+        }
         return Text::translated(
             "%@ has no control channel on this connection. A cable straight from the "
             "computer to the monitor, without an adapter or a dock, usually has.",
             {nameOf(display)});
     }
     const I2CDevices::Bus bus = display.adapter->bus;
-    switch (nodes_.access(bus)) {
-        case DeviceNodes::Access::missing:
-            return Text::translated(
-                "The kernel's module for monitors' control channels isn't loaded. To load "
-                "it, run: sudo modprobe i2c-dev");
-        case DeviceNodes::Access::forbidden:
-            return forbidden(bus);
-        case DeviceNodes::Access::allowed:
-            break;
-    }
+    if (auto found = obstacle(bus)) return found;
     const auto failure = answers_.lastingFailure(display.id);
     if (!failure) return std::nullopt;
     if (*failure == EBUSY) {
@@ -70,6 +64,20 @@ std::optional<Text> LinuxObstacles::obstacle(const Inventory::Display& display) 
     }
     return Text::translated("%@ doesn't answer. Look for DDC/CI in the monitor's own menu and switch it on.",
                             {nameOf(display)});
+}
+
+std::optional<Text> LinuxObstacles::obstacle(I2CDevices::Bus bus) {
+    switch (nodes_.access(bus)) {
+        case DeviceNodes::Access::missing:
+            return Text::translated(
+                "The kernel's module for monitors' control channels isn't loaded. To load "
+                "it, run: sudo modprobe i2c-dev");
+        case DeviceNodes::Access::forbidden:
+            return forbidden(bus);
+        case DeviceNodes::Access::allowed:
+            break;
+    }
+    return std::nullopt;
 }
 
 Text LinuxObstacles::forbidden(I2CDevices::Bus bus) {

@@ -25,6 +25,7 @@ class LinuxObstacles : public platform::Obstacles {
   private:
     // Nothing for a display that can be talked to, as far as is known.
     std::optional<text::Text> obstacle(const Inventory::Display& display);
+    std::optional<text::Text> obstacle(I2CDevices::Bus bus);
     text::Text forbidden(I2CDevices::Bus bus);
 
     const Inventory& inventory_;
