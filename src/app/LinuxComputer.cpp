@@ -35,7 +35,7 @@ class LinuxComputer : public Computer {
     LinuxComputer(runtime::Scheduler& scheduler, runtime::MainLoop& mainLoop)
         : scheduler_(scheduler),
           mainLoop_(mainLoop),
-          desk_(scheduler, mainLoop),
+          desk_(scheduler, mainLoop, true),
           events_(desk_.descriptors()) {}
 
     platform::LogSink* systemLog() override { return &journal_; }

@@ -4,8 +4,10 @@
 #include <utility>
 
 #include "platform/MemoryDefaults.h"
-#include "platform/linux/NoDesktop.h"
+#include "platform/linux/DesktopChoice.h"
+#include "platform/linux/mutter/MutterDesktop.h"
 #include "platform/linux/randr/RandRDesktop.h"
+#include "platform/linux/wayland/WaylandDesktop.h"
 #include "platform/posix/FileDefaults.h"
 #include "platform/posix/StateFolder.h"
 
@@ -17,20 +19,35 @@ std::string variable(const char* name) {
     return value != nullptr ? value : "";
 }
 
-std::unique_ptr<linux::Desktop> findDesktop(linux::Descriptors& descriptors, runtime::MainLoop& mainLoop) {
-    if (const std::string display = variable("DISPLAY"); !display.empty()) {
-        if (auto desktop = randr::RandRDesktop::open(display, descriptors, mainLoop)) return desktop;
-    }
-    return std::make_unique<linux::NoDesktop>();
+// Where a Wayland compositor answers, the X server is a guest on it, whose outputs are
+// the compositor's inventions.
+std::unique_ptr<linux::Desktop> findDesktop(linux::Descriptors& descriptors, runtime::MainLoop& mainLoop,
+                                            const runtime::Clock& clock, bool wantsTables) {
+    bool isWayland = false;
+    const auto onWayland = [&]() -> std::unique_ptr<linux::Desktop> {
+        const std::string display = variable("WAYLAND_DISPLAY");
+        if (display.empty()) return nullptr;
+        auto desktop = wayland::WaylandDesktop::open({display, variable("XDG_CURRENT_DESKTOP"), wantsTables},
+                                                     descriptors, clock);
+        isWayland = desktop != nullptr;
+        return desktop;
+    };
+    const auto onX = [&]() -> std::unique_ptr<linux::Desktop> {
+        const std::string display = variable("DISPLAY");
+        if (isWayland || display.empty()) return nullptr;
+        return randr::RandRDesktop::open(display, descriptors, mainLoop);
+    };
+    const auto onMutter = [&] { return mutter::MutterDesktop::open(descriptors, mainLoop); };
+    return linux::DesktopChoice::choose({onWayland, onX, onMutter});
 }
 
 }  // namespace
 
-LinuxDesk::LinuxDesk(runtime::Scheduler&, runtime::MainLoop& mainLoop)
+LinuxDesk::LinuxDesk(runtime::Scheduler& scheduler, runtime::MainLoop& mainLoop, bool wantsTables)
     : descriptors_(mainLoop),
       system_(linux::Bus::Kind::system, descriptors_, mainLoop),
       session_(system_),
-      desktop_(findDesktop(descriptors_, mainLoop)),
+      desktop_(findDesktop(descriptors_, mainLoop, scheduler, wantsTables)),
       folder_(posix::StateFolder::session(posix::StateFolder::environment()).value_or("")) {}
 
 linux::SessionMemory LinuxDesk::memory(platform::LogSink& log) {

@@ -20,7 +20,9 @@ namespace vantrel::app {
 
 class LinuxDesk {
   public:
-    LinuxDesk(runtime::Scheduler& scheduler, runtime::MainLoop& mainLoop);
+    // Some desktops let one program only have their transfer tables: who won't use them
+    // leaves them to others.
+    LinuxDesk(runtime::Scheduler& scheduler, runtime::MainLoop& mainLoop, bool wantsTables);
     LinuxDesk(const LinuxDesk&) = delete;
     LinuxDesk& operator=(const LinuxDesk&) = delete;
 

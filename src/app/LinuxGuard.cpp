@@ -54,7 +54,7 @@ int LinuxGuard::run() {
     runtime::RealScheduler scheduler;
     runtime::MainLoop loop(scheduler);
     linux::JournalLog journal;
-    LinuxDesk desk(scheduler, loop);
+    LinuxDesk desk(scheduler, loop, false);
     linux::SessionMemory memory = desk.memory(journal);
     linux::OutputSwitch outputs(desk.desktop(), desk.session(), memory, nullptr, platform::Log(journal));
     linux::GuardDuty duty(desk.desktop(), desk.session(), outputs, loop);

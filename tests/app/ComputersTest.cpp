@@ -2,7 +2,6 @@
 
 #include "app/Computers.h"
 #include "platform/simulated/VirtualTime.h"
-#include "support/DeathTest.h"
 #include "support/RecordingLogSink.h"
 #include "support/TemporaryFolder.h"
 
@@ -31,12 +30,6 @@ class ComputersTest : public testing::Test {
 TEST_F(ComputersTest, ForgetsSettingsThatNobodyWantsToKeep) { EXPECT_FALSE(keeps(Settings::forgotten)); }
 
 TEST_F(ComputersTest, KeepsSettingsInTheFolderThatTheUserNames) { EXPECT_TRUE(keeps(Settings::kept)); }
-
-using ComputersDeathTest = ComputersTest;  // so that it runs first
-
-TEST_F(ComputersDeathTest, StopsWithoutADeskOnASystemThatItDoesNotKnow) {
-    EXPECT_DEATH(Computers::make({}, std::nullopt, Settings::kept, time, loop), "knows no computer");
-}
 
 }  // namespace
 }  // namespace vantrel::app

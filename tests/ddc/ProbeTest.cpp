@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <variant>
+#include <vector>
 
 #include "ddc/Probe.h"
 #include "platform/simulated/DeskFile.h"
@@ -19,7 +21,7 @@ struct Result {
     std::size_t servicesLeft;
 };
 
-Result probe(std::string_view deskFile) {
+Result probe(std::string_view deskFile, std::vector<text::Text> obstacles = {}) {
     auto desk = simulated::DeskFile::readText(deskFile, "desk");
     if (const auto* error = std::get_if<simulated::DeskFileError>(&desk)) {
         ADD_FAILURE() << error->line();
@@ -28,11 +30,28 @@ Result probe(std::string_view deskFile) {
     simulated::VirtualTime time;
     runtime::MainLoop loop(time);
     simulated::SimulatedPlatform simulated(std::get<simulated::Desk>(std::move(desk)), time, loop);
+    simulated.obstruct(std::move(obstacles));
     test::RecordingLogSink log;
     platform::Platform platform = simulated.platform(log);
     std::ostringstream output;
     Probe::run(platform, output);
     return {output.str(), log.lines(), time.now().time_since_epoch(), simulated.liveServices()};
+}
+
+TEST(Probe, SaysAtItsEndWhatIsInTheWay) {
+    const Result result = probe(
+        R"json({"title": "t", "displays": []})json",
+        {text::Text::translated("%@ is in the way.", {"A cable"}), text::Text::verbatim("So is this.")});
+    EXPECT_EQ(result.output, "External AV services: 0\nA cable is in the way.\nSo is this.\n");
+}
+
+// Whether a monitor answers is known only by then.
+TEST(Probe, LooksWhatIsInTheWayWhenItHasAskedEverybody) {
+    const Result result = probe(R"json({"title": "t", "displays": [
+        {"id": 2, "name": "Lumo 24", "vendor": 1, "product": 2, "monitor": {}}]})json",
+                                {text::Text::verbatim("Something is in the way.")});
+    EXPECT_TRUE(result.output.ends_with("\nSomething is in the way.\n")) << result.output;
+    EXPECT_NE(result.output.find("Capabilities: "), std::string::npos) << result.output;
 }
 
 TEST(Probe, CountsNoServicesOnAnEmptyDesk) {

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "linux/BusService.h"
-#include "linux/PrivateBus.h"
 #include "platform/linux/Bus.h"
 #include "platform/linux/DescriptorThread.h"
 #include "runtime/RealScheduler.h"
+#include "support/PrivateBus.h"
 
 namespace vantrel::linux {
 namespace {
@@ -46,7 +46,7 @@ class BusTest : public testing::Test {
 
     runtime::RealScheduler scheduler;
     runtime::MainLoop loop{scheduler};
-    PrivateBus daemon;
+    test::PrivateBus daemon;
     DescriptorThread descriptors{loop};
     std::unique_ptr<BusService> service = std::make_unique<BusService>(scheduler, "org.vantrel.Clerk");
     std::unique_ptr<Bus> bus = std::make_unique<Bus>(Bus::Kind::system, descriptors, loop);

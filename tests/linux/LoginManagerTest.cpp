@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "linux/BusService.h"
-#include "linux/PrivateBus.h"
 #include "platform/linux/DescriptorThread.h"
 #include "platform/linux/LoginManager.h"
 #include "runtime/RealScheduler.h"
+#include "support/PrivateBus.h"
 
 namespace vantrel::linux {
 namespace {
@@ -53,7 +53,7 @@ class LoginManagerTest : public testing::Test {
 
     runtime::RealScheduler scheduler;
     runtime::MainLoop loop{scheduler};
-    PrivateBus daemon;
+    test::PrivateBus daemon;
     DescriptorThread descriptors{loop};
     std::unique_ptr<BusService> service = std::make_unique<BusService>(scheduler, "org.freedesktop.login1");
     std::unique_ptr<Bus> bus = std::make_unique<Bus>(Bus::Kind::system, descriptors, loop);

@@ -1,13 +1,10 @@
 #include <gmock/gmock.h>
 
 #include "mutter/MutterRig.h"
-#include "mutter/PrivateBus.h"
 #include "platform/linux/mutter/MutterDesktop.h"
 
 namespace vantrel::mutter {
 namespace {
-
-const auto* const privateBus = testing::AddGlobalTestEnvironment(new PrivateBus);
 
 class MutterDesktopTest : public MutterRig {
   protected:
@@ -353,6 +350,26 @@ TEST_F(MutterDesktopTest, HasNoOutputsWhileMutterIsAway) {
     EXPECT_FALSE(desktop->setTable("DP-1", dimmed()));
     mutter.comeBack();
     waitForChange([&] { return desktop->outputs().size() == 3; });
+}
+
+TEST_F(MutterDesktopTest, IsThereAsLongAsMutterIs) {
+    EXPECT_TRUE(desktop->isThere());
+    mutter.change([](MockMutter::Desk& desk) {
+        for (MockScreen& screen : desk.screens) screen.isPlugged = false;
+        desk.logical.clear();
+    });
+    EXPECT_TRUE(desktop->outputs().empty());
+    EXPECT_TRUE(desktop->isThere());
+    mutter.leave();
+    EXPECT_FALSE(desktop->isThere());
+    mutter.comeBack();
+    EXPECT_TRUE(desktop->isThere());
+}
+
+TEST_F(MutterDesktopTest, IsThereWhileMutterSleeps) {
+    mutter.pause();
+    EXPECT_TRUE(desktop->isThere());
+    mutter.goOn();
 }
 
 TEST_F(MutterDesktopTest, GivesUpOnAMutterThatDoesNotAnswer) {

@@ -13,6 +13,7 @@
 #include "platform/linux/mutter/MutterDesktop.h"
 #include "runtime/MainLoop.h"
 #include "runtime/RealScheduler.h"
+#include "support/PrivateBus.h"
 
 namespace vantrel::mutter {
 
@@ -65,6 +66,7 @@ class MutterRig : public testing::Test {
 
     runtime::RealScheduler scheduler;
     runtime::MainLoop loop{scheduler};
+    test::PrivateBus bus;
     linux::DescriptorThread descriptors{loop};
     MockMutter mutter;
     std::unique_ptr<MutterDesktop> desktop;

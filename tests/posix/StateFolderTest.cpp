@@ -45,6 +45,26 @@ TEST(StateFolder, IsNowhereWithoutHome) {
     EXPECT_EQ(StateFolder::simulated({}), std::nullopt);
 }
 
+TEST(StateFolder, OfASessionEndsWithIt) {
+    EXPECT_EQ(StateFolder::session({"/people/ann", "/config", "/state", "/run/user/7"}),
+              "/run/user/7/vantrel");
+    EXPECT_EQ(StateFolder::session({{}, {}, {}, "/run/user/7"}), "/run/user/7/vantrel");
+}
+
+TEST(StateFolder, OfASessionLastsLongerWhereTheSystemKeepsNothingForAsLong) {
+    EXPECT_EQ(StateFolder::session({"/people/ann", {}, {}, {}}), "/people/ann/.local/state/vantrel/session");
+    EXPECT_EQ(StateFolder::session({"/people/ann", {}, "/state", {}}), "/state/vantrel/session");
+    EXPECT_EQ(StateFolder::session({"/people/ann", {}, {}, ""}), "/people/ann/.local/state/vantrel/session");
+    EXPECT_EQ(StateFolder::session({"/people/ann", {}, {}, "run"}),
+              "/people/ann/.local/state/vantrel/session");
+    EXPECT_EQ(StateFolder::session({}), std::nullopt);
+}
+
+TEST(StateFolder, KeepsASessionApartFromEverythingElse) {
+    const Environment environment{{}, "/all", "/all", "/all"};
+    EXPECT_NE(StateFolder::session(environment), StateFolder::simulated(environment));
+}
+
 TEST(StateFolder, KnowsTheEnvironmentOfTheProcess) {
     const char* home = std::getenv("HOME");
     EXPECT_EQ(StateFolder::environment().home,

@@ -1,4 +1,6 @@
 #include <QEventLoop>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTimer>
 #include <gmock/gmock.h>
@@ -110,6 +112,31 @@ TEST(SliderItem, MovesByItsWheelStepWithTheWheel) {
     ViewBench::wheel(bench.at("slider"), 120);
     ViewBench::wheel(bench.at("slider"), -240);
     EXPECT_THAT(slides.values, testing::ElementsAre(45, 35));
+}
+
+TEST(SliderItem, IsLeftAloneByAWheelThatScrollsItUnderThePointer) {
+    Slides slides;
+    ViewBench bench(
+        column(0, {Node{.element = Scroll{.maximumHeight = 100},
+                        .children = {column(
+                            0, {image("display").width(20).height(400).key("above"), slides.shown(40)})}}
+                       .key("scroll")})
+            .width(216));
+    const auto& bar = *dynamic_cast<QScrollArea&>(bench.at("scroll")).verticalScrollBar();
+    ViewBench::wheel(bench.at("slider"), -120, 5000);
+    EXPECT_THAT(slides.values, testing::ElementsAre(35));
+    const int start = bar.value();
+    ViewBench::wheel(bench.at("above"), 120, 8000);
+    const int before = bar.value();
+    EXPECT_LT(before, start);
+    ViewBench::wheel(bench.at("slider"), 120, 8900);
+    EXPECT_LT(bar.value(), before);
+    ViewBench::wheel(bench.at("slider"), -120, 9800);
+    EXPECT_EQ(bar.value(), before);
+    EXPECT_THAT(slides.values, testing::ElementsAre(35));
+    ViewBench::wheel(bench.at("slider"), 120, 10900);
+    EXPECT_EQ(bar.value(), before);
+    EXPECT_THAT(slides.values, testing::ElementsAre(35, 40));
 }
 
 TEST(SliderItem, AddsUpPartsOfAWheelNotch) {

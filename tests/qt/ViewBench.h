@@ -89,12 +89,17 @@ class ViewBench {
         mouse(widget, QEvent::MouseButtonPress, middle);
         mouse(widget, QEvent::MouseButtonRelease, middle);
     }
-    // In eighths of a degree; the same way as the system delivers it.
-    static void wheel(QWidget& widget, int angle) {
-        const QPointF middle = QRectF(widget.rect()).center();
-        QWheelEvent event(middle, widget.mapToGlobal(middle), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&widget, &event);
+    // In eighths of a degree and milliseconds. As with a real one, whoever has no use for
+    // the turn leaves it to what he lies on.
+    static void wheel(QWidget& widget, int angle, quint64 time = 0) {
+        for (QWidget* taker = &widget; taker != nullptr; taker = taker->parentWidget()) {
+            const QPointF middle = QRectF(taker->rect()).center();
+            QWheelEvent event(middle, taker->mapToGlobal(middle), {}, {0, angle}, Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            event.setTimestamp(time);
+            event.ignore();
+            if (QApplication::sendEvent(taker, &event) && event.isAccepted()) return;
+        }
     }
 
   private:

@@ -30,6 +30,11 @@ class ChildProcess {
                 if (size > 0) bytes.remove_prefix(static_cast<std::size_t>(size));
             }
         }
+        // For what reports by itself that way; the parent hears of its end.
+        void becomeStandardOutput() const {
+            ::dup2(pipe_, STDOUT_FILENO);
+            ::close(pipe_);
+        }
 
       private:
         int pipe_;

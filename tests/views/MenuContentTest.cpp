@@ -174,6 +174,69 @@ TEST(MenuContentError, GoesWhenItIsDismissed) {
     EXPECT_THAT(view.outline(), Not(HasSubstr("exclamationmark")));
 }
 
+// What is in the way
+
+const text::Text module = text::Text::translated("Load the module.");
+const text::Text permission = text::Text::translated("%@ may not.", {"Ann"});
+
+TEST(MenuContentObstacles, AreWarningsOfTheirOwnBelowTheTitle) {
+    ViewRig view;
+    view.rig.simulated.obstruct({module, permission});
+    view.manager().refresh();
+    view.showMenu();
+    EXPECT_EQ(view.tree().children.at(1).id, "obstacle Load the module.");
+    EXPECT_EQ(view.tree().children.at(2).id, "obstacle Ann may not.");
+    EXPECT_EQ(outline::outlineOf(view.tree().children.at(1)),
+              "row, key \"obstacle Load the module.\"\n"
+              "  image exclamationmark.triangle.fill warning\n"
+              "  text \"Load the module.\" warning\n"
+              "  button xmark borderless, named \"Dismiss\", help\n");
+    EXPECT_TRUE(std::get<ui::Text>(view.tree().children.at(1).children.at(1).element).wraps);
+}
+
+TEST(MenuContentObstacles, ComeAndGoWhileTheMenuIsShown) {
+    ViewRig view;
+    view.showMenu();
+    EXPECT_THAT(view.outline(), Not(HasSubstr("exclamationmark")));
+    view.rig.simulated.obstruct({module});
+    view.manager().refresh();
+    view.settle();
+    EXPECT_THAT(view.lines(), Contains("text \"Load the module.\" warning"));
+    view.rig.simulated.obstruct({});
+    view.manager().refresh();
+    view.settle();
+    EXPECT_THAT(view.outline(), Not(HasSubstr("exclamationmark")));
+}
+
+TEST(MenuContentObstacles, GoOneByOneWhenTheyAreDismissed) {
+    ViewRig view;
+    view.rig.simulated.obstruct({module});
+    view.manager().refresh();
+    view.showMenu();
+    view.press("Dismiss");
+    EXPECT_THAT(view.outline(), Not(HasSubstr("exclamationmark")));
+    view.rig.simulated.obstruct({module, permission});
+    view.manager().refresh();
+    view.settle();
+    EXPECT_THAT(view.lines(), Contains("text \"Ann may not.\" warning"));
+    EXPECT_THAT(view.lines(), Not(Contains("text \"Load the module.\" warning")));
+    view.press("Dismiss");
+    EXPECT_THAT(view.manager().obstacles(), testing::IsEmpty());
+}
+
+TEST(MenuContentObstacles, StandBelowTheErrorAndStayWhenThatIsDismissed) {
+    ViewRig view(deskOf({monitorPlan(2, "Alder")}));
+    view.rig.simulated.obstruct({module});
+    view.manager().refresh();
+    view.rig.perform(view.manager().disableOutput(view.display(), std::nullopt));
+    view.showMenu();
+    EXPECT_EQ(view.tree().children.at(1).id, "error");
+    EXPECT_EQ(view.tree().children.at(2).id, "obstacle Load the module.");
+    view.manager().clearLastError();
+    view.settle();
+    EXPECT_EQ(view.tree().children.at(1).id, "obstacle Load the module.");
+}
+
 // Cards
 
 TEST(MenuContentCards, AreTheMonitorsInTheSystemsOrderAndThenThePanel) {

@@ -98,6 +98,26 @@ TEST_F(WaylandDesktopChangesTest, HasNoOutputsOnceTheCompositorHasDied) {
     EXPECT_FALSE(desktop->setTable("DP-1", dimmed()));
 }
 
+TEST_F(WaylandDesktopChangesTest, IsThereAsLongAsTheCompositorLives) {
+    EXPECT_TRUE(desktop->isThere());
+    compositor.change([](MockDesk& desk) {
+        for (const auto& monitor : desk.monitors) monitor->isPlugged = false;
+    });
+    waitUntil([&] { return desktop->outputs().empty(); });
+    EXPECT_TRUE(desktop->isThere());
+    compositor.die();
+    EXPECT_FALSE(desktop->isThere());
+}
+
+TEST_F(WaylandDesktopChangesTest, IsThereWhileTheCompositorSleeps) {
+    compositor.pause();
+    clock.hurry();
+    EXPECT_FALSE(desktop->darken("DP-1"));
+    EXPECT_TRUE(desktop->isThere());
+    clock.calmDown();
+    compositor.goOn();
+}
+
 TEST_F(WaylandDesktopChangesTest, SurvivesACompositorThatDiesBeforeACall) {
     compositor.die();
     EXPECT_FALSE(desktop->darken("DP-1"));

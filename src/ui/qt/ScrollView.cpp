@@ -11,6 +11,13 @@
 
 namespace vantrel::qt {
 
+namespace {
+
+// Between two turns of the wheel that somebody makes to get further down.
+constexpr quint64 pauseAtMost = 1000;
+
+}  // namespace
+
 class ScrollView::Bar : public QWidget {
   public:
     Bar(ScrollView* view, QScrollBar* model) : QWidget(view), model_(model) {
@@ -83,6 +90,15 @@ ScrollView::ScrollView(QWidget* parent) : QScrollArea(parent) {
 void ScrollView::setContentSize(const QSize& size) {
     widget()->resize(size);
     placeBar();
+}
+
+void ScrollView::wheelEvent(QWheelEvent* event) {
+    turnedAt_ = event->timestamp();
+    QScrollArea::wheelEvent(event);
+}
+
+bool ScrollView::keeps(const QWheelEvent& turn) const {
+    return turnedAt_ && turn.timestamp() - *turnedAt_ <= pauseAtMost;
 }
 
 // Perhaps not among its own children.

@@ -5,6 +5,8 @@
 
 #include <QPointer>
 #include <QScrollArea>
+#include <QWheelEvent>
+#include <optional>
 
 namespace vantrel::qt {
 
@@ -16,7 +18,12 @@ class ScrollView : public QScrollArea {
     // Of everything in it.
     void setContentSize(const QSize& size);
 
+    // Whether the wheel's turn belongs to this view though what lies under the pointer by
+    // now has a use for it: it came there because the view was scrolled just before.
+    bool keeps(const QWheelEvent& turn) const;
+
   protected:
+    void wheelEvent(QWheelEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -28,6 +35,8 @@ class ScrollView : public QScrollArea {
     void placeBar();
 
     QPointer<Bar> bar_;
+    // Of the last turn of the wheel that came here, in milliseconds.
+    std::optional<quint64> turnedAt_;
 };
 
 }  // namespace vantrel::qt

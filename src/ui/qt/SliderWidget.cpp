@@ -10,6 +10,7 @@
 
 #include "ui/qt/Look.h"
 #include "ui/qt/Painting.h"
+#include "ui/qt/ScrollView.h"
 
 namespace vantrel::qt {
 namespace {
@@ -130,8 +131,17 @@ void SliderWidget::keyPressEvent(QKeyEvent* event) {
     event->accept();
 }
 
+bool SliderWidget::isScrolledPast(const QWheelEvent& turn) const {
+    for (const QWidget* place = parentWidget(); place != nullptr; place = place->parentWidget()) {
+        const auto* const view = dynamic_cast<const ScrollView*>(place);
+        if (view != nullptr && view->keeps(turn)) return true;
+    }
+    return false;
+}
+
 void SliderWidget::wheelEvent(QWheelEvent* event) {
-    event->accept();
+    event->setAccepted(!isScrolledPast(*event));
+    if (!event->isAccepted()) return;
     if (isSliderDown() || newest_.step <= 0) return;
     const QPoint angle = event->angleDelta();
     wheel_ += std::abs(angle.y()) >= std::abs(angle.x()) ? angle.y() : -angle.x();

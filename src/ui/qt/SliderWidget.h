@@ -35,6 +35,8 @@ class SliderWidget : public QSlider, public Spoken {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    // Whether it only came under the pointer: nobody who scrolls means it.
+    bool isScrolledPast(const QWheelEvent& turn) const;
     void showNewest();
     void moveBySteps(double steps);
     void slideTo(int position);

@@ -66,6 +66,14 @@ void appendPart(sd_bus_message* message, const LogicalMonitor& part, const Displ
 
 }  // namespace
 
+bool DisplayConfig::isThere() {
+    const auto call = bus_.makeCall(daemon, "NameHasOwner");
+    if (call == nullptr) return false;
+    sd_bus_message_append(call.get(), "s", service.service.c_str());
+    const auto answer = bus_.call(call);
+    return MessageReader(answer.get()).truth();
+}
+
 std::optional<DisplayState> DisplayConfig::state() {
     return DisplayState::read(bus_.call(bus_.makeCall(service, "GetCurrentState")));
 }

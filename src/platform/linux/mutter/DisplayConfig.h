@@ -29,6 +29,8 @@ class DisplayConfig {
 
     explicit DisplayConfig(linux::Bus& session) : bus_(session) {}
 
+    // Whether somebody offers the service, even if he is too busy to answer.
+    bool isThere();
     std::optional<DisplayState> state();
     // By connector.
     Drivers drivers();

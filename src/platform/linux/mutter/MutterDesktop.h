@@ -29,6 +29,7 @@ class MutterDesktop : public linux::Desktop {
 
     std::string name() const override { return "GNOME"; }
     std::string identity() const override { return identity_; }
+    bool isThere() override { return config_.isThere(); }
     std::vector<Output> outputs() override;
 
     std::optional<platform::TransferTable> table(const std::string& output) override;

@@ -80,6 +80,11 @@ std::string WaylandDesktop::identity() const {
     return "wayland-" + display;
 }
 
+bool WaylandDesktop::isThere() {
+    read();
+    return connection_->isAlive();
+}
+
 std::vector<linux::Desktop::Output> WaylandDesktop::outputs() {
     read();
     return current();

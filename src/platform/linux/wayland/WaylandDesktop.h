@@ -40,6 +40,7 @@ class WaylandDesktop : public linux::Desktop {
 
     std::string name() const override;
     std::string identity() const override;
+    bool isThere() override;
     std::vector<Output> outputs() override;
 
     std::optional<platform::TransferTable> table(const std::string& output) override;

@@ -17,7 +17,7 @@
 
 extern char** environ;
 
-namespace vantrel::linux {
+namespace vantrel::test {
 
 class PrivateBus {
   public:
@@ -52,14 +52,16 @@ class PrivateBus {
         std::array<int, 2> ends{-1, -1};
         ASSERT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
         const std::string address = "--print-address=3";
-        std::array<const char*, 5> arguments{"dbus-daemon", configuration.c_str(), "--nofork",
-                                             address.c_str(), nullptr};
+        // It doesn't outlive the test, however that ends.
+        std::array<const char*, 8> arguments{
+            "setpriv",  "--pdeathsig",   "KILL", "dbus-daemon", configuration.c_str(),
+            "--nofork", address.c_str(), nullptr};
         posix_spawn_file_actions_t actions;
         ::posix_spawn_file_actions_init(&actions);
         ::posix_spawn_file_actions_adddup2(&actions, ends[1], 3);
         // It complains where it may not raise its limits.
         ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-        const int error = ::posix_spawnp(&daemon_, "dbus-daemon", &actions, nullptr,
+        const int error = ::posix_spawnp(&daemon_, arguments[0], &actions, nullptr,
                                          const_cast<char**>(arguments.data()), environ);
         ::posix_spawn_file_actions_destroy(&actions);
         ::close(ends[1]);
@@ -71,8 +73,8 @@ class PrivateBus {
         ASSERT_TRUE(error == 0 && hasSaid) << "dbus-daemon can't be started";
     }
 
-    const test::TemporaryFolder folder_;
+    const TemporaryFolder folder_;
     pid_t daemon_ = -1;
 };
 
-}  // namespace vantrel::linux
+}  // namespace vantrel::test
