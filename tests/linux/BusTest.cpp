@@ -1,3 +1,4 @@
+#include <chrono>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -12,6 +13,8 @@
 
 namespace vantrel::linux {
 namespace {
+
+using namespace std::chrono_literals;
 
 const Bus::Address clerk{"org.vantrel.Clerk", "/clerk", "org.vantrel.Clerk"};
 
@@ -121,6 +124,22 @@ TEST_F(BusTest, HearsASignalOnTheMainThread) {
     say("two");
     loop.run();
     EXPECT_EQ(heard, (std::vector<std::string>{"one", "two"}));
+}
+
+// The bus's word that it will tell of them has come, but waits just as long to be read.
+TEST_F(BusTest, HearsSignalsHoweverLateTheMainLoopRuns) {
+    bool hasHeard = false;
+    bus->onSignal(clerk, "Word", [&](sd_bus_message*) {
+        hasHeard = true;
+        loop.quit();
+    });
+    service->keepSilent("Greet");
+    EXPECT_EQ(ask("Greet"), "nothing");
+    loop.runFor(1ms);
+    ASSERT_TRUE(bus->isConnected());
+    say("word");
+    loop.run();
+    EXPECT_TRUE(hasHeard);
 }
 
 TEST_F(BusTest, HearsNoOtherSignal) {

@@ -101,8 +101,8 @@ struct MockMutter::Methods {
         sd_bus_message_append(answer, "u", desk.serial);
         openArray(answer, "(uxiiiiiuaua{sv})");
         for (std::uint32_t crtc = 0; crtc < desk.screens.size(); ++crtc) {
-            sd_bus_message_append(answer, "(uxiiiiiuaua{sv})", crtc, static_cast<std::int64_t>(40 + crtc), 0,
-                                  0, 1920, 1080, 0, 0U, 1, 0U, 0);
+            sd_bus_message_append(answer, "(uxiiiiiuaua{sv})", crtc, std::int64_t{40} + crtc, 0, 0, 1920,
+                                  1080, 0, 0U, 1, 0U, 0);
         }
         close(answer);
         openArray(answer, "(uxiausauaua{sv})");
@@ -111,7 +111,7 @@ struct MockMutter::Methods {
             if (!screen.isPlugged) continue;
             openStruct(answer, "uxiausauaua{sv}");
             const bool isLit = desk.find(screen.connector) != nullptr;
-            sd_bus_message_append(answer, "uxi", number, static_cast<std::int64_t>(50 + number),
+            sd_bus_message_append(answer, "uxi", number, std::int64_t{50} + number,
                                   isLit ? static_cast<int>(number) : -1);
             sd_bus_message_append(answer, "au", 1, number);
             sd_bus_message_append(answer, "sauau", screen.connector.c_str(), 2, 0U, 1U, 0);

@@ -372,6 +372,16 @@ TEST_F(MutterDesktopTest, IsThereWhileMutterSleeps) {
     mutter.goOn();
 }
 
+TEST_F(MutterDesktopTest, SeesWhatHappenedWhileMutterSlept) {
+    mutter.pause();
+    EXPECT_FALSE(desktop->darken("DP-1"));
+    EXPECT_TRUE(desktop->outputs().empty());
+    mutter.goOn();
+    // Not a word of it.
+    mutter.run([](MockMutter::Desk& desk) { desk.logical.erase(desk.logical.begin()); });
+    waitForChange([&] { return desktop->outputs().size() == 3 && !output("DP-1").isLit; });
+}
+
 TEST_F(MutterDesktopTest, GivesUpOnAMutterThatDoesNotAnswer) {
     mutter.run([](MockMutter::Desk& desk) { desk.isSilent = true; });
     EXPECT_FALSE(desktop->darken("DP-1"));

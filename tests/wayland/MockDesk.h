@@ -42,8 +42,8 @@ struct MockDesk {
             finish(configuration, answer);
         }
     }
-    void release() {
-        for (const Configuration& configuration : kept) finish(configuration, Answer::succeed);
+    void release(Answer answer) {
+        for (const Configuration& configuration : kept) finish(configuration, answer);
         kept.clear();
     }
 

@@ -51,9 +51,10 @@ struct MockKDEManagement::Requests {
         change(resource, device, [=](MockMonitor::State& state) { state.isEnabled = isEnabled != 0; });
     }
     static void mode(wl_client*, wl_resource* resource, wl_resource* device, wl_resource* mode) {
-        // The number of the mode, counted from 1.
-        const auto number = reinterpret_cast<std::uintptr_t>(wl_resource_get_user_data(mode));
-        change(resource, device, [=](MockMonitor::State& state) { state.mode = number - 1; });
+        const auto* const asked = static_cast<MockMonitor::Mode*>(wl_resource_get_user_data(mode));
+        const auto number = asked - Object::of(device).monitor->modes.data();
+        change(resource, device,
+               [=](MockMonitor::State& state) { state.mode = static_cast<std::size_t>(number); });
     }
     static void transform(wl_client*, wl_resource* resource, wl_resource* device, std::int32_t transform) {
         change(resource, device, [=](MockMonitor::State& state) { state.transform = transform; });
@@ -112,11 +113,10 @@ void MockKDEManagement::bindDevice(wl_client* client, std::uint32_t version, std
              std::erase_if(shown_[&monitor].devices,
                            [=](const Device& other) { return other.device == ending; });
          }});
-    for (const MockMonitor::Mode& mode : monitor.modes) {
+    for (MockMonitor::Mode& mode : monitor.modes) {
         wl_resource* const object = wl_resource_create(client, &kde_output_device_mode_v2_interface, 1, 0);
         device.modes.push_back(object);
-        wl_resource_set_implementation(object, nullptr, reinterpret_cast<void*>(device.modes.size()),
-                                       nullptr);
+        wl_resource_set_implementation(object, nullptr, &mode, nullptr);
         kde_output_device_v2_send_mode(device.device, object);
         kde_output_device_mode_v2_send_size(object, mode.width, mode.height);
         if (mode.refresh != 0) kde_output_device_mode_v2_send_refresh(object, mode.refresh);

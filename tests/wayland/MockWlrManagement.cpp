@@ -72,9 +72,9 @@ struct MockWlrManagement::Requests {
     }
 
     static void setMode(wl_client*, wl_resource* resource, wl_resource* mode) {
-        // The number of the mode, counted from 1.
-        const auto number = reinterpret_cast<std::uintptr_t>(wl_resource_get_user_data(mode));
-        asked(resource).state.mode = number - 1;
+        const auto* const found = static_cast<MockMonitor::Mode*>(wl_resource_get_user_data(mode));
+        const auto number = found - asked(resource).monitor.modes.data();
+        asked(resource).state.mode = static_cast<std::size_t>(number);
     }
     static void setCustomMode(wl_client*, wl_resource* resource, std::int32_t, std::int32_t, std::int32_t) {
         wl_resource_post_error(resource, ZWLR_OUTPUT_CONFIGURATION_HEAD_V1_ERROR_INVALID_CUSTOM_MODE,
@@ -163,10 +163,10 @@ MockWlrManagement::ToldHead MockWlrManagement::introduce(wl_resource* manager, M
         zwlr_output_head_v1_send_model(told.head, monitor.model.c_str());
         zwlr_output_head_v1_send_serial_number(told.head, "1234");
     }
-    for (const MockMonitor::Mode& mode : monitor.modes) {
+    for (MockMonitor::Mode& mode : monitor.modes) {
         wl_resource* const object = wl_resource_create(client, &zwlr_output_mode_v1_interface, version, 0);
         told.modes.push_back(object);
-        wl_resource_set_implementation(object, nullptr, reinterpret_cast<void*>(told.modes.size()), nullptr);
+        wl_resource_set_implementation(object, nullptr, &mode, nullptr);
         zwlr_output_head_v1_send_mode(told.head, object);
         zwlr_output_mode_v1_send_size(object, mode.width, mode.height);
         if (mode.refresh != 0) zwlr_output_mode_v1_send_refresh(object, mode.refresh);
@@ -194,6 +194,7 @@ void MockWlrManagement::apply(wl_resource* resource, Configuration& configuratio
         return;
     }
     std::vector<Asked> asked;
+    asked.reserve(configuration.heads.size());
     for (const auto& head : configuration.heads) asked.push_back(*head);
     // The client may have let go of it by the time that it is kept for.
     const auto answer = [object = std::weak_ptr(Requests::object(resource).configuration),

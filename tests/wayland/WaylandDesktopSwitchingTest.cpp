@@ -88,6 +88,17 @@ TEST_P(WaylandDesktopSwitchingTest, TakesTheFirstModeWhereNoneIsPreferred) {
     EXPECT_EQ(compositor.monitor("DP-3").state.mode, 0U);
 }
 
+TEST_P(WaylandDesktopSwitchingTest, TakesNoModeWithoutASize) {
+    compositor.change([](MockDesk& desk) {
+        desk.monitors.push_back(std::make_unique<MockMonitor>("DP-3"));
+        desk.monitors.back()->modes = {{0, 0, 0, false}, {640, 480, 60000, false}};
+        desk.monitors.back()->state = {false, 0, 0, 0, 0, 256, 0};
+    });
+    waitUntil([&] { return names().size() == 3; });
+    ASSERT_TRUE(desktop->light("DP-3", std::nullopt));
+    EXPECT_EQ(compositor.monitor("DP-3").state.mode, 1U);
+}
+
 TEST_P(WaylandDesktopSwitchingTest, TreatsAMonitorWithoutTheOldModeAsANewcomer) {
     ASSERT_TRUE(desktop->darken("DP-1"));
     ASSERT_TRUE(desktop->light("DP-1", "wayland mode=640x480@60000 position=7,7 transform=2 scale=512"));
@@ -130,10 +141,33 @@ TEST_P(WaylandDesktopSwitchingTest, GivesUpOnACompositorThatDoesNotAnswer) {
     clock.hurry();
     EXPECT_FALSE(desktop->darken("DP-1"));
     clock.calmDown();
-    EXPECT_TRUE(output("DP-1").isLit);
     // A late answer is no answer, but what it did is seen.
-    compositor.run([](MockDesk& desk) { desk.release(); });
-    waitUntil([&] { return !output("DP-1").isLit; });
+    compositor.run([](MockDesk& desk) { desk.release(Answer::succeed); });
+    waitUntil([&] { return compositor.monitor("DP-1").state.isEnabled == output("DP-1").isLit; });
+    EXPECT_FALSE(output("DP-1").isLit);
+}
+
+// Whoever takes it for lit doesn't note it, and it goes dark without anybody knowing why.
+TEST_P(WaylandDesktopSwitchingTest, ReliesOnNoOutputThatMayBeTurnedOffAnyMoment) {
+    const auto arrangement = desktop->arrangement("DP-1");
+    answer({Answer::keep});
+    clock.hurry();
+    EXPECT_FALSE(desktop->darken("DP-1"));
+    clock.calmDown();
+    EXPECT_FALSE(output("DP-1").isLit);
+    EXPECT_TRUE(output("DP-2").isLit);
+    compositor.run([](MockDesk& desk) { desk.release(Answer::fail); });
+    waitForChange([&] { return output("DP-1").isLit; });
+    EXPECT_EQ(desktop->arrangement("DP-1"), arrangement);
+}
+
+TEST_P(WaylandDesktopSwitchingTest, BelievesTheAnswerToALaterQuestion) {
+    answer({Answer::keep});
+    clock.hurry();
+    EXPECT_FALSE(desktop->darken("DP-1"));
+    clock.calmDown();
+    EXPECT_TRUE(desktop->light("DP-1", std::nullopt));
+    EXPECT_TRUE(output("DP-1").isLit);
 }
 
 TEST_P(WaylandDesktopSwitchingTest, DoesNotAskForSomethingElseWhileAnAnswerIsOwed) {

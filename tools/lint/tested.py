@@ -28,7 +28,7 @@ UNTESTED = {
     "src/ui/qt/ScrollView.cpp": "the widget of ScrollItem, whose test scrolls it",
     "src/ui/qt/SliderWidget.cpp": "the widget of SliderItem, whose test moves it in every way",
     **{f"src/platform/linux/wayland/{name}.cpp": _COMPOSITOR for name in (
-        "Connection", "CoreOutput", "Globals", "KDEDevice", "KDEOutputManagement", "OutputTable", "Proxy", "WlrHead",
+        "CoreOutput", "Globals", "KDEDevice", "KDEOutputManagement", "OutputTable", "Proxy", "WlrHead",
         "WlrOutputManagement")},
     **{f"src/platform/linux/mutter/{name}.cpp": _MUTTER for name in ("DisplayConfig", "DisplayState", "MessageReader")},
     "src/platform/simulated/Announcements.cpp": "a piece of World, whose test watches what it announces",

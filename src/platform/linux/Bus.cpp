@@ -32,6 +32,7 @@ void Bus::disconnect() {
     later_.reset();
     // Before the descriptor is closed.
     watch_.reset();
+    signals_.clear();
     if (bus_ != nullptr) sd_bus_close_unref(std::exchange(bus_, nullptr));
 }
 
@@ -65,9 +66,13 @@ Bus::Message Bus::property(const Address& address, const char* name, const char*
 void Bus::onSignal(const Address& address, const char* signal, Handler handler) {
     if (bus_ == nullptr) return;
     handlers_.push_back(std::make_unique<Handler>(std::move(handler)));
-    // Without waiting for the bus's word: a service may not be there yet.
-    sd_bus_match_signal_async(bus_, nullptr, address.service.c_str(), address.path.c_str(),
-                              address.interface.c_str(), signal, &received, nullptr, handlers_.back().get());
+    // Without waiting for the bus's word: a service may not be there yet. Where that comes
+    // late, or is read late, it is as good: the library would end the connection, or this.
+    sd_bus_slot* slot = nullptr;
+    sd_bus_match_signal_async(
+        bus_, &slot, address.service.c_str(), address.path.c_str(), address.interface.c_str(), signal,
+        &received, [](sd_bus_message*, void*, sd_bus_error*) { return 0; }, handlers_.back().get());
+    signals_.emplace_back(slot);
     processLater();
 }
 

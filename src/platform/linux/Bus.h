@@ -32,6 +32,7 @@ class Bus {
 
     struct Unreference {
         void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
+        void operator()(sd_bus_slot* slot) const { sd_bus_slot_unref(slot); }
     };
     using Message = std::unique_ptr<sd_bus_message, Unreference>;
     using Handler = std::function<void(sd_bus_message*)>;
@@ -63,6 +64,7 @@ class Bus {
     runtime::MainLoop& mainLoop_;
     sd_bus* bus_ = nullptr;
     std::vector<std::unique_ptr<Handler>> handlers_;
+    std::vector<std::unique_ptr<sd_bus_slot, Unreference>> signals_;
     std::unique_ptr<Descriptors::Watch> watch_;
     std::optional<runtime::MainLoop::TimerID> later_;
 };

@@ -1,5 +1,6 @@
 #include "platform/linux/mutter/MutterDesktop.h"
 
+#include <chrono>
 #include <optional>
 
 #include "platform/linux/mutter/MessageReader.h"
@@ -7,6 +8,8 @@
 namespace vantrel::mutter {
 namespace {
 
+// Until a Mutter that is too busy to answer is asked again.
+constexpr std::chrono::seconds pause(1);
 // How often a change that came in between is taken for bad luck.
 constexpr int attempts = 4;
 
@@ -65,11 +68,16 @@ std::unique_ptr<MutterDesktop> MutterDesktop::open(linux::Descriptors& descripto
 }
 
 MutterDesktop::MutterDesktop(linux::Descriptors& descriptors, runtime::MainLoop& mainLoop)
-    : bus_(linux::Bus::Kind::session, descriptors, mainLoop),
+    : mainLoop_(mainLoop),
+      bus_(linux::Bus::Kind::session, descriptors, mainLoop),
       config_(bus_),
       identity_("mutter-" + busName(bus_)),
       notice_(std::make_unique<linux::ChangeNotice>(descriptors, current())) {
     config_.onChange([this] { notice_->compare(current()); });
+}
+
+MutterDesktop::~MutterDesktop() {
+    if (again_) mainLoop_.cancel(*again_);
 }
 
 std::vector<linux::Desktop::Output> MutterDesktop::outputs() {
@@ -125,7 +133,7 @@ bool MutterDesktop::light(const std::string& output, const std::optional<Arrange
 bool MutterDesktop::change(const NextLayout& next) {
     bool isTaken = false;
     for (int attempt = 0; attempt < attempts && !isTaken; ++attempt) {
-        const auto state = config_.state();
+        const auto state = this->state();
         if (!state) return false;
         for (const Layout& layout : next(*state)) {
             isTaken = layout == state->layout || config_.apply(*state, layout);
@@ -133,7 +141,7 @@ bool MutterDesktop::change(const NextLayout& next) {
         }
         if (isTaken) break;
         // A refusal is for good unless the monitors were others by then.
-        const auto after = config_.state();
+        const auto after = this->state();
         if (!after) return false;
         if (after->serial == state->serial) break;
     }
@@ -141,9 +149,21 @@ bool MutterDesktop::change(const NextLayout& next) {
     return isTaken;
 }
 
+// Nobody announces that it can answer again, and what it has done until then.
+std::optional<DisplayState> MutterDesktop::state() {
+    auto state = config_.state();
+    if (!state && !again_ && isThere()) {
+        again_ = mainLoop_.after(pause, [this] {
+            again_.reset();
+            notice_->compare(current());
+        });
+    }
+    return state;
+}
+
 std::vector<linux::Desktop::Output> MutterDesktop::current() {
     std::vector<Output> outputs;
-    const auto state = config_.state();
+    const auto state = this->state();
     if (!state) return outputs;
     auto drivers = config_.drivers();
     for (const Monitor& monitor : state->monitors) {

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,6 +27,7 @@ class MutterDesktop : public linux::Desktop {
     static std::unique_ptr<MutterDesktop> open(linux::Descriptors& descriptors, runtime::MainLoop& mainLoop);
     MutterDesktop(const MutterDesktop&) = delete;
     MutterDesktop& operator=(const MutterDesktop&) = delete;
+    ~MutterDesktop() override;
 
     std::string name() const override { return "GNOME"; }
     std::string identity() const override { return identity_; }
@@ -50,11 +52,14 @@ class MutterDesktop : public linux::Desktop {
 
     MutterDesktop(linux::Descriptors& descriptors, runtime::MainLoop& mainLoop);
 
+    // Nothing where Mutter doesn't answer; then it is asked again later.
+    std::optional<DisplayState> state();
     std::vector<Output> current();
     std::uint32_t tableCapacity(std::uint32_t serial, std::uint32_t crtc);
     // Asks for the first of those layouts that Mutter takes; an empty list asks for nothing.
     bool change(const NextLayout& next);
 
+    runtime::MainLoop& mainLoop_;
     linux::Bus bus_;
     mutable DisplayConfig config_;
     std::string identity_;
@@ -62,6 +67,7 @@ class MutterDesktop : public linux::Desktop {
     std::map<std::uint32_t, std::uint32_t> capacities_;
     std::uint32_t capacitiesSerial_ = 0;
     std::unique_ptr<linux::ChangeNotice> notice_;
+    std::optional<runtime::MainLoop::TimerID> again_;
 };
 
 }  // namespace vantrel::mutter

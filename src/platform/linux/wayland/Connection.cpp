@@ -25,9 +25,11 @@ void Connection::read(const Deadline& deadline) {
 
 bool Connection::wait(const std::function<bool()>& isDone, const Deadline& deadline) {
     while (isAlive_ && !isDone()) {
-        if (!pass(deadline.milliseconds())) return false;
+        const int left = deadline.milliseconds();
+        // A compositor that never stops talking has no answer, either.
+        if (!pass(left) || left == 0) break;
     }
-    return isAlive_;
+    return isAlive_ && isDone();
 }
 
 bool Connection::roundtrip(const Deadline& deadline) {

@@ -53,14 +53,14 @@ OutputManagement::Answer KDEOutputManagement::ask(const std::string& head, const
     const auto found = std::find_if(devices_.begin(), devices_.end(),
                                     [&](const auto& device) { return device.second.head().name == head; });
     if (found == devices_.end() || !manager_ || !connection_.isAlive()) return Answer::refused;
-    const Proxy<Configuration> configuration(kde_output_management_v2_create_configuration(manager_.get()));
-    std::optional<Answer> answer;
-    kde_output_configuration_v2_add_listener(configuration.get(), &Events::answers, &answer);
-    kde_output_configuration_v2_enable(configuration.get(), found->second.object(), shape ? 1 : 0);
-    if (shape) describeShape(configuration.get(), found->second, *shape);
-    kde_output_configuration_v2_apply(configuration.get());
-    if (!connection_.wait([&] { return answer.has_value(); }, deadline)) return Answer::refused;
-    return *answer;
+    Configuration* const configuration = kde_output_management_v2_create_configuration(manager_.get());
+    auto& question = questions_.add(configuration, head, !shape);
+    kde_output_configuration_v2_add_listener(configuration, &Events::answers, &question.answer);
+    kde_output_configuration_v2_enable(configuration, found->second.object(), shape ? 1 : 0);
+    if (shape) describeShape(configuration, found->second, *shape);
+    kde_output_configuration_v2_apply(configuration);
+    connection_.wait([&] { return question.answer.has_value(); }, deadline);
+    return questions_.settle(question);
 }
 
 }  // namespace vantrel::wayland

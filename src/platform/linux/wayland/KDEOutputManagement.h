@@ -11,6 +11,7 @@
 #include "platform/linux/wayland/KDEDevice.h"
 #include "platform/linux/wayland/OutputManagement.h"
 #include "platform/linux/wayland/Proxy.h"
+#include "platform/linux/wayland/Questions.h"
 
 namespace vantrel::wayland {
 
@@ -26,6 +27,7 @@ class KDEOutputManagement : public OutputManagement {
 
     std::vector<Head> heads() const override;
     Answer ask(const std::string& head, const std::optional<Shape>& shape, const Deadline& deadline) override;
+    bool mayDarken(const std::string& head) const override { return questions_.mayDarken(head); }
 
   private:
     struct Events;
@@ -34,6 +36,7 @@ class KDEOutputManagement : public OutputManagement {
     Proxy<kde_output_management_v2> manager_;
     // In the order in which the compositor has announced them.
     std::map<std::uint32_t, KDEDevice> devices_;
+    Questions<kde_output_configuration_v2> questions_;
 };
 
 }  // namespace vantrel::wayland

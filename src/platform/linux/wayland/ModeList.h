@@ -41,6 +41,8 @@ class ModeList {
         head.preferred.reset();
         head.shape.mode.reset();
         for (const Offered& offered : modes_) {
+            // A size that was never told is no size to ask for.
+            if (offered.mode.width <= 0 || offered.mode.height <= 0) continue;
             head.modes.push_back(offered.mode);
             if (offered.isPreferred && !head.preferred) head.preferred = offered.mode;
             if (offered.object.get() == current_) head.shape.mode = offered.mode;

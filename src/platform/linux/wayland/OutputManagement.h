@@ -15,16 +15,19 @@ namespace vantrel::wayland {
 
 class OutputManagement {
   public:
-    // `outdated`: the outputs have changed meanwhile, and it may be asked again.
-    enum class Answer { taken, refused, outdated };
+    // `outdated`: the outputs have changed meanwhile, and it may be asked again. `none`: not
+    // in time, and nobody knows what is still to come.
+    enum class Answer { taken, refused, outdated, none };
 
     virtual ~OutputManagement() = default;
     // In the compositor's order.
     virtual std::vector<Head> heads() const = 0;
     // Lights one output in that shape, or turns it off without one; all others stay as they
-    // are. No answer in time is a refusal.
+    // are.
     virtual Answer ask(const std::string& head, const std::optional<Shape>& shape,
                        const Deadline& deadline) = 0;
+    // Whether the compositor was asked to turn it off and owes the answer.
+    virtual bool mayDarken(const std::string& head) const = 0;
 };
 
 }  // namespace vantrel::wayland

@@ -156,7 +156,10 @@ std::vector<linux::Desktop::Output> WaylandDesktop::current() const {
     if (!connection_->isAlive()) return outputs;
     if (const auto* const management = globals_->management()) {
         for (const Head& head : management->heads()) {
-            if (!head.name.empty()) outputs.push_back(outputOf(head));
+            if (head.name.empty()) continue;
+            Output& output = outputs.emplace_back(outputOf(head));
+            // Whoever relies on it may find himself in the dark.
+            if (management->mayDarken(head.name)) output.isLit = false;
         }
     }
     for (auto& [number, core] : globals_->outputs()) {

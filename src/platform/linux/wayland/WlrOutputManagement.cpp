@@ -66,14 +66,13 @@ OutputManagement::Answer WlrOutputManagement::ask(const std::string& head, const
                                                   const Deadline& deadline) {
     const WlrHead* const changed = find(head);
     if (changed == nullptr || !manager_ || !connection_.isAlive()) return Answer::refused;
-    const Proxy<zwlr_output_configuration_v1> configuration(
-        zwlr_output_manager_v1_create_configuration(manager_.get(), serial_));
-    std::optional<Answer> answer;
-    zwlr_output_configuration_v1_add_listener(configuration.get(), &Events::answers, &answer);
-    const HeadRequests requests = describe(configuration.get(), changed, shape);
-    zwlr_output_configuration_v1_apply(configuration.get());
-    if (!connection_.wait([&] { return answer.has_value(); }, deadline)) return Answer::refused;
-    return *answer;
+    auto* const configuration = zwlr_output_manager_v1_create_configuration(manager_.get(), serial_);
+    auto& question = questions_.add(configuration, head, !shape);
+    zwlr_output_configuration_v1_add_listener(configuration, &Events::answers, &question.answer);
+    const HeadRequests requests = describe(configuration, changed, shape);
+    zwlr_output_configuration_v1_apply(configuration);
+    connection_.wait([&] { return question.answer.has_value(); }, deadline);
+    return questions_.settle(question);
 }
 
 WlrHead* WlrOutputManagement::find(const std::string& name) const {

@@ -10,6 +10,7 @@
 #include "platform/linux/wayland/Connection.h"
 #include "platform/linux/wayland/OutputManagement.h"
 #include "platform/linux/wayland/Proxy.h"
+#include "platform/linux/wayland/Questions.h"
 #include "platform/linux/wayland/WlrHead.h"
 
 namespace vantrel::wayland {
@@ -25,6 +26,7 @@ class WlrOutputManagement : public OutputManagement {
 
     std::vector<Head> heads() const override;
     Answer ask(const std::string& head, const std::optional<Shape>& shape, const Deadline& deadline) override;
+    bool mayDarken(const std::string& head) const override { return questions_.mayDarken(head); }
 
   private:
     struct Events;
@@ -39,6 +41,7 @@ class WlrOutputManagement : public OutputManagement {
     Proxy<zwlr_output_manager_v1> manager_;
     std::vector<std::unique_ptr<WlrHead>> heads_;
     std::uint32_t serial_ = 0;
+    Questions<zwlr_output_configuration_v1> questions_;
 };
 
 }  // namespace vantrel::wayland
