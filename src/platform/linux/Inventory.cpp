@@ -81,7 +81,6 @@ void Inventory::findAdapters(Displays& displays) {
     }
     for (Display& display : displays) {
         if (display.adapter || display.connector.isBuiltIn()) continue;
-<<<<<<< HEAD
         display.adapter = askedBefore(display.connector, found);
         if (!display.adapter) continue;
         note(asked, display);
@@ -89,10 +88,7 @@ void Inventory::findAdapters(Displays& displays) {
     }
     for (Display& display : displays) {
         if (display.adapter || display.connector.isBuiltIn()) continue;
-        display.adapter = ask(display.connector, found);
-=======
         ask(display, found);
->>>>>>> core
         if (!display.adapter) continue;
         note(asked, display);
         found.insert(display.adapter->bus);
