@@ -1,18 +1,10 @@
 #include "platform/PrivateFunctions.h"
 
+#include "platform/LibraryPaths.h"
+
 namespace vantrel::platform {
-namespace {
-
-constexpr const char* ioKit = "/System/Library/Frameworks/IOKit.framework/IOKit";
-constexpr const char* skyLight = "/System/Library/PrivateFrameworks/SkyLight.framework/SkyLight";
-constexpr const char* coreGraphics = "/System/Library/Frameworks/CoreGraphics.framework/CoreGraphics";
-constexpr const char* displayServices =
-    "/System/Library/PrivateFrameworks/DisplayServices.framework/DisplayServices";
-
-}  // namespace
-
-void* PrivateFunctions::symbol(const char* name, std::initializer_list<const char*> libraries) {
-    for (const char* path : libraries) {
+void* PrivateFunctions::symbol(const char* name, std::initializer_list<const char*> paths) {
+    for (const char* path : paths) {
         void* library = loader_.open(path);
         if (library == nullptr) continue;
         if (void* address = loader_.lookUp(library, name)) return address;
@@ -22,29 +14,34 @@ void* PrivateFunctions::symbol(const char* name, std::initializer_list<const cha
 
 template <class Function>
 Function PrivateFunctions::resolve(Lazy<Function>& lazy, const char* name,
-                                   std::initializer_list<const char*> libraries) {
-    std::call_once(lazy.once, [&] { lazy.function = reinterpret_cast<Function>(symbol(name, libraries)); });
+                                   std::initializer_list<const char*> paths) {
+    std::call_once(lazy.once, [&] { lazy.function = reinterpret_cast<Function>(symbol(name, paths)); });
     return lazy.function;
 }
 
 AVServiceCreate PrivateFunctions::avCreate() {
-    return resolve(avCreate_, "IOAVServiceCreateWithService", {ioKit});
+    return resolve(avCreate_, "IOAVServiceCreateWithService", {libraries::ioKit});
 }
 
-AVServiceWriteI2C PrivateFunctions::avWrite() { return resolve(avWrite_, "IOAVServiceWriteI2C", {ioKit}); }
+AVServiceWriteI2C PrivateFunctions::avWrite() {
+    return resolve(avWrite_, "IOAVServiceWriteI2C", {libraries::ioKit});
+}
 
-AVServiceReadI2C PrivateFunctions::avRead() { return resolve(avRead_, "IOAVServiceReadI2C", {ioKit}); }
+AVServiceReadI2C PrivateFunctions::avRead() {
+    return resolve(avRead_, "IOAVServiceReadI2C", {libraries::ioKit});
+}
 
 ConfigureDisplayEnabled PrivateFunctions::configureEnabled() {
-    return resolve(configureEnabled_, "CGSConfigureDisplayEnabled", {skyLight, coreGraphics});
+    return resolve(configureEnabled_, "CGSConfigureDisplayEnabled",
+                   {libraries::skyLight, libraries::coreGraphics});
 }
 
 GetDisplayBrightness PrivateFunctions::getBrightness() {
-    return resolve(getBrightness_, "DisplayServicesGetBrightness", {displayServices});
+    return resolve(getBrightness_, "DisplayServicesGetBrightness", {libraries::displayServices});
 }
 
 SetDisplayBrightness PrivateFunctions::setBrightness() {
-    return resolve(setBrightness_, "DisplayServicesSetBrightness", {displayServices});
+    return resolve(setBrightness_, "DisplayServicesSetBrightness", {libraries::displayServices});
 }
 
 }  // namespace vantrel::platform

@@ -51,8 +51,8 @@ class PrivateFunctions {
     };
 
     template <class Function>
-    Function resolve(Lazy<Function>& lazy, const char* symbol, std::initializer_list<const char*> libraries);
-    void* symbol(const char* name, std::initializer_list<const char*> libraries);
+    Function resolve(Lazy<Function>& lazy, const char* symbol, std::initializer_list<const char*> paths);
+    void* symbol(const char* name, std::initializer_list<const char*> paths);
 
     SymbolLoader& loader_;
     Lazy<AVServiceCreate> avCreate_;

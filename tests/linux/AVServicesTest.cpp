@@ -5,6 +5,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "linux/InventoryRig.h"
@@ -74,11 +75,22 @@ TEST_F(AVServicesTest, GivesNoHandleOfAnUnknownDisplay) {
     EXPECT_EQ(services.live(), 0);
 }
 
-TEST_F(AVServicesTest, GivesNoHandleOfADisplayWithoutABus) {
+TEST_F(AVServicesTest, GivesAHandleOfADisplayWithoutABusThatLeadsNowhere) {
     tree.removeAdapter(4);
     EXPECT_NE(idOf("card0-DP-1"), 0);
-    EXPECT_EQ(services.create(left), nullptr);
+    const void* service = services.create(left);
+    EXPECT_NE(service, nullptr);
+    EXPECT_EQ(write(service), ENODEV);
+    EXPECT_EQ(read(service), ENODEV);
+    EXPECT_EQ(devices.transfers(), 0);
+    services.release(service);
     EXPECT_EQ(services.live(), 0);
+}
+
+TEST_F(AVServicesTest, GivesNoHandleOfABuiltInPanel) {
+    add("card0-eDP-1", 7, Wiring::child);
+    plug("card0-eDP-1", edidOf(1, 2, 5));
+    EXPECT_EQ(services.create(idOf("card0-eDP-1")), nullptr);
 }
 
 TEST_F(AVServicesTest, GivesAHandleOfItsOwnEachTime) {
@@ -189,6 +201,25 @@ TEST_F(AVServicesTest, NeverReachesAnotherMonitorUnderTheOldNumber) {
     EXPECT_EQ(write(other), 0);
     services.release(service);
     services.release(other);
+}
+
+// The same bus below the same graphics device, but the kernel says that it is another's now.
+TEST_F(AVServicesTest, NeverReachesAnotherMonitorThatHasItsPlaceToo) {
+    add("card0-DP-3", 6, Wiring::link);
+    plug("card0-DP-3", edidOf(1, 2, 5));
+    ASSERT_NE(idOf("card0-DP-3"), right);
+    const void* service = services.create(right);
+    for (const auto& [from, to] : {std::pair(5U, 9U), std::pair(6U, 5U)}) {
+        tree.renumber(from, to);
+        devices.renumber(from, to);
+    }
+    inventory.look();
+    EXPECT_EQ(write(service), ENODEV);
+    EXPECT_EQ(written.size(), 0);
+    const void* fresh = services.create(right);
+    EXPECT_EQ(write(fresh), 0);
+    services.release(service);
+    services.release(fresh);
 }
 
 TEST_F(AVServicesTest, FailsOnceTheMonitorWasSeenToBeUnplugged) {

@@ -54,11 +54,12 @@ class FakeDesktop : public Desktop {
         outputs_.erase(find(name));
         changed();
     }
-    // A monitor is plugged in or out, and the desktop lights or darkens its output.
-    void plug(const std::string& name, std::vector<std::uint8_t> edid) {
+    // A monitor is plugged in or out, and the desktop lights or darkens its output, unless it
+    // remembers that the output was dark.
+    void plug(const std::string& name, std::vector<std::uint8_t> edid, bool isLit = true) {
         output(name).edid = std::move(edid);
         output(name).isConnected = true;
-        set(name, true);
+        set(name, isLit);
     }
     void unplug(const std::string& name) {
         output(name).edid.clear();

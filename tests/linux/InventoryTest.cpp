@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "linux/InventoryRig.h"
@@ -283,6 +284,21 @@ TEST_F(InventoryTest, AsksAgainWhenTheBusHasGoneOrHasAnotherNumber) {
     EXPECT_EQ(busOf("card0-DP-1"), std::nullopt);
 }
 
+// What a connector names counts for more than what was found out before.
+TEST_F(InventoryTest, AsksAgainWhenTheBusIsSomebodyElsesNow) {
+    add("card0-DP-1", 4, Wiring::none);
+    add("card0-DP-2", 5, Wiring::link);
+    plug("card0-DP-1", alder, 4);
+    plug("card0-DP-2", birch, 5);
+    EXPECT_EQ(busOf("card0-DP-1"), 4);
+    for (const auto& [from, to] : {std::pair(4U, 9U), std::pair(5U, 4U), std::pair(9U, 5U)}) {
+        tree.renumber(from, to);
+        devices.renumber(from, to);
+    }
+    EXPECT_EQ(busOf("card0-DP-1"), 5);
+    EXPECT_EQ(busOf("card0-DP-2"), 4);
+}
+
 TEST_F(InventoryTest, AsksUntilItFindsTheMonitor) {
     add("card0-DP-1", 4, Wiring::none);
     plug("card0-DP-1", alder, 4);
@@ -350,11 +366,12 @@ TEST_F(InventoryTest, KeepsTheBusesThatLeadToMonitorsAndNoOthers) {
 TEST_F(InventoryTest, KnowsWhetherATransferWouldStillReachTheMonitor) {
     add("card0-DP-1", 4, Wiring::child);
     plug("card0-DP-1", alder);
-    const auto adapter = look("card0-DP-1")->adapter;
-    ASSERT_TRUE(adapter);
-    EXPECT_TRUE(inventory.isThere(*adapter));
+    const auto display = look("card0-DP-1");
+    ASSERT_TRUE(display->adapter);
+    EXPECT_TRUE(inventory.leadsTo(display->id, *display->adapter));
+    EXPECT_FALSE(inventory.leadsTo(display->id + 1, *display->adapter)) << "it is another one's";
     tree.removeAdapter(4);
-    EXPECT_FALSE(inventory.isThere(*adapter));
+    EXPECT_FALSE(inventory.leadsTo(display->id, *display->adapter));
 }
 
 TEST_F(InventoryTest, MayBeReadOnAnyThreadWhileItLooks) {

@@ -6,11 +6,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "linux/FakeDesktop.h"
 #include "linux/FakeDeviceEvents.h"
@@ -60,17 +62,53 @@ class LinuxHardware {
     // By the desk's number of the display.
     const Place& place(platform::DisplayID display) const { return places_.at(display); }
     simulated::SimulatedMonitor& monitor(platform::DisplayID display) { return *monitors_.at(display); }
+    bool hasMonitor(platform::DisplayID display) const { return monitors_.contains(display); }
 
-    // Cables. The desktop shows a picture on what is plugged in.
+    // Cables. The desktop shows a picture on what is plugged in; nobody answers at the end of
+    // a cable that isn't.
     void plug(platform::DisplayID display) {
-        tree.plug(place(display).connector, place(display).edid);
+        if (place(display).bus) devices.fail(*place(display).bus, 0);
+        connect(display);
         desktop.plug(place(display).output, place(display).edid);
         events.announce();
     }
     void unplug(platform::DisplayID display) {
-        tree.unplug(place(display).connector);
-        desktop.unplug(place(display).output);
+        if (place(display).bus) devices.fail(*place(display).bus, ENXIO);
+        disconnect(display);
+    }
+    // A monitor that lets go of its hot-plug line for a moment. The desktop remembers what it
+    // showed there; the line of I2C isn't concerned.
+    void beginPulse(platform::DisplayID display) {
+        wasLit_[display] = desktop.output(place(display).output).isLit;
+        disconnect(display);
+    }
+    void endPulse(platform::DisplayID display) {
+        connect(display);
+        desktop.plug(place(display).output, place(display).edid, wasLit_[display]);
         events.announce();
+    }
+    // The driver of its bus is loaded again: the bus has another number.
+    void renumber(platform::DisplayID display, unsigned bus) {
+        unsigned& now = *places_.at(display).bus;
+        tree.renumber(now, bus);
+        devices.renumber(now, bus);
+        now = bus;
+    }
+    // Two unplugged monitors change their places.
+    void swap(platform::DisplayID one, platform::DisplayID other) {
+        std::swap(places_.at(one), places_.at(other));
+        std::swap(places_.at(one).edid, places_.at(other).edid);
+        for (const platform::DisplayID display : {one, other}) {
+            devices.putMonitor(*place(display).bus, monitor(display));
+            devices.putEDID(*place(display).bus, place(display).edid);
+        }
+    }
+    // Nothing gets through while the computer sleeps.
+    void sleep() { failAll(EIO); }
+    void wake() {
+        failAll(0);
+        for (auto& [display, monitor] : monitors_) monitor->wake();
+        session.wake();
     }
 
     SysfsTree tree;
@@ -83,6 +121,17 @@ class LinuxHardware {
     FakeGuard guard;
 
   private:
+    void connect(platform::DisplayID display) { tree.plug(place(display).connector, place(display).edid); }
+    void disconnect(platform::DisplayID display) {
+        tree.unplug(place(display).connector);
+        desktop.unplug(place(display).output);
+        events.announce();
+    }
+    void failAll(int error) {
+        for (const auto& [display, place] : places_) {
+            if (place.bus) devices.fail(*place.bus, error);
+        }
+    }
     void addDisplay(const simulated::DisplayPlan& plan) {
         constexpr std::array<const char*, 3> types{"DP-", "HDMI-A-", "DVI-D-"};
         const std::string name =
@@ -114,6 +163,7 @@ class LinuxHardware {
 
     unsigned externals_ = 0;
     std::map<platform::DisplayID, Place> places_;
+    std::map<platform::DisplayID, bool> wasLit_;
     std::map<platform::DisplayID, std::unique_ptr<simulated::SimulatedMonitor>> monitors_;
 };
 

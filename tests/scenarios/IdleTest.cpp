@@ -2,39 +2,40 @@
 #include <gtest/gtest.h>
 #include <optional>
 
-#include "support/ModelRig.h"
+#include "scenarios/Stories.h"
+#include "support/ShippedDesk.h"
 
-namespace vantrel::test {
+namespace vantrel {
 namespace {
 
 using namespace std::chrono_literals;
+using test::DeskStory;
+using test::shippedDesk;
 
 // A program that nobody uses must not keep a laptop's processor awake.
-TEST(Idle, LeavesNoTimerBehindOnAnyShippedDesk) {
+TEST_P(Idle, LeavesNoTimerBehindOnAnyShippedDesk) {
     for (const auto& desk : simulated::ShippedDesks::list()) {
-        ModelRig rig(shippedDesk(desk.name));
-        rig.start();
-        rig.loop.run();
-        EXPECT_EQ(rig.loop.nextDue(), std::nullopt) << desk.name;
-        EXPECT_EQ(rig.manager->runningTasks(), 0U) << desk.name;
+        DeskStory story = at(shippedDesk(desk.name));
+        story.loop().run();
+        EXPECT_EQ(story.loop().nextDue(), std::nullopt) << desk.name;
+        EXPECT_EQ(story.manager().runningTasks(), 0U) << desk.name;
     }
 }
 
-TEST(Idle, KeepsOneModelPerMonitorOverManyHotPlugs) {
-    ModelRig rig(shippedDesk("default"));
-    rig.start();
-    rig.loop.run();
-    const auto display = rig.display(2);
-    const std::size_t services = rig.simulated.liveServices();
+TEST_P(Idle, KeepsOneModelPerMonitorOverManyHotPlugs) {
+    DeskStory story = at(shippedDesk("default"));
+    story.loop().run();
+    const auto display = story.model(2);
+    const std::size_t services = story.computer().liveServices();
     for (int cycle = 0; cycle < 100; ++cycle) {
-        rig.simulated.world().unplug(2);
-        rig.runFor(2s);
-        rig.simulated.world().plug(2);
-        rig.runFor(2s);
+        story.computer().unplug(2);
+        story.waits(2s);
+        story.computer().plug(2);
+        story.waits(2s);
     }
-    EXPECT_EQ(rig.display(2), display);
-    EXPECT_EQ(rig.simulated.liveServices(), services);
+    EXPECT_EQ(story.model(2), display);
+    EXPECT_EQ(story.computer().liveServices(), services);
 }
 
 }  // namespace
-}  // namespace vantrel::test
+}  // namespace vantrel

@@ -1,8 +1,8 @@
 // People take a monitor away from the computer and give it back.
 #include <gtest/gtest.h>
 
-#include "support/DeskStory.h"
-#include "support/ModelRig.h"
+#include "scenarios/Stories.h"
+#include "support/ShippedDesk.h"
 
 namespace vantrel {
 namespace {
@@ -21,8 +21,8 @@ const std::string onlyDisplay = "The Mac's only active display can't be turned o
 const std::string alderNotBackOn =
     "Couldn't turn Alder back on. If it was disconnected, plug the cable back in.";
 
-TEST(OutputOffAndOnStory, AMonitorIsTurnedOffAndOnAgain) {
-    DeskStory story(test::usualDesk());
+TEST_P(OutputOffAndOnStory, AMonitorIsTurnedOffAndOnAgain) {
+    DeskStory story = at(test::usualDesk());
     story.turnsOff(2);
     story.waits(10ms);
     EXPECT_EQ(story.card(2), "off");
@@ -42,9 +42,9 @@ TEST(OutputOffAndOnStory, AMonitorIsTurnedOffAndOnAgain) {
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(OutputOffAndOnStory, AMonitorGoesToItsFocusInput) {
-    DeskStory story(test::usualDesk());
-    story.rig.display(2)->inputSettings().setFocusInput(otherInput);
+TEST_P(OutputOffAndOnStory, AMonitorGoesToItsFocusInput) {
+    DeskStory story = at(test::usualDesk());
+    story.model(2)->inputSettings().setFocusInput(otherInput);
     story.turnsOff(2);
     story.waits(1s);
     EXPECT_EQ(story.card(2), "off");
@@ -55,9 +55,9 @@ TEST(OutputOffAndOnStory, AMonitorGoesToItsFocusInput) {
     EXPECT_EQ(story.shown(2), computersInput);
 }
 
-TEST(OutputOffAndOnStory, TheLastDisplayIsNotTurnedOff) {
-    DeskStory story(deskOf({panelPlan(), monitorPlan(2, "Alder")}));
-    story.rig.world().closeLid();
+TEST_P(OutputOffAndOnStory, TheLastDisplayIsNotTurnedOff) {
+    DeskStory story = at(deskOf({panelPlan(), monitorPlan(2, "Alder")}));
+    story.computer().closeLid();
     story.waits(1s);
     story.turnsOff(2);
     story.waits(1s);
@@ -65,7 +65,7 @@ TEST(OutputOffAndOnStory, TheLastDisplayIsNotTurnedOff) {
     EXPECT_EQ(story.card(2), "on");
     EXPECT_TRUE(story.hasPicture(2));
 
-    story.rig.world().openLid();
+    story.computer().openLid();
     story.waits(1s);
     story.turnsOff(2);
     story.waits(1s);
@@ -73,8 +73,8 @@ TEST(OutputOffAndOnStory, TheLastDisplayIsNotTurnedOff) {
     EXPECT_EQ(story.card(2), "off");
 }
 
-TEST(OutputOffAndOnStory, MonitorsAreTurnedOffUntilOneIsLeft) {
-    DeskStory story(deskOf({monitorPlan(2, "Alder"), monitorPlan(3, "Birch"), monitorPlan(4, "Cedar")}));
+TEST_P(OutputOffAndOnStory, MonitorsAreTurnedOffUntilOneIsLeft) {
+    DeskStory story = at(deskOf({monitorPlan(2, "Alder"), monitorPlan(3, "Birch"), monitorPlan(4, "Cedar")}));
     for (const platform::DisplayID id : {2U, 3U, 4U}) {
         story.turnsOff(id);
         story.waits(1s);
@@ -83,28 +83,28 @@ TEST(OutputOffAndOnStory, MonitorsAreTurnedOffUntilOneIsLeft) {
     EXPECT_EQ(story.errorText(), onlyDisplay);
 }
 
-TEST(OutputOffAndOnStory, TheSystemRefusesAndThenDoesNot) {
-    DeskStory story(test::usualDesk());
-    story.rig.simulated.refuse(Refusal::complete);
+TEST_P(OutputOffAndOnStory, TheSystemRefusesAndThenDoesNot) {
+    DeskStory story = at(test::usualDesk());
+    story.computer().refuse(Refusal::complete);
     story.picks(2, otherInput);
     story.waits(1s);
     EXPECT_EQ(story.errorText(), "macOS refused to turn the output off for Alder.");
     EXPECT_EQ(story.card(2), "on");
     EXPECT_EQ(story.shown(2), otherInput);
 
-    story.rig.simulated.refuse(Refusal::nothing);
+    story.computer().refuse(Refusal::nothing);
     story.turnsOff(2);
     story.waits(1s);
     EXPECT_EQ(story.errorText(), "");
     EXPECT_EQ(story.card(2), "off");
 
-    story.rig.simulated.refuse(Refusal::enable);
+    story.computer().refuse(Refusal::enable);
     story.turnsOn(2);
     story.waits(5s);
     EXPECT_EQ(story.errorText(), alderNotBackOn);
     EXPECT_EQ(story.card(2), "off");
 
-    story.rig.simulated.refuse(Refusal::nothing);
+    story.computer().refuse(Refusal::nothing);
     story.turnsOn(2);
     story.waits(1s);
     EXPECT_EQ(story.errorText(), "");
@@ -113,13 +113,13 @@ TEST(OutputOffAndOnStory, TheSystemRefusesAndThenDoesNot) {
     EXPECT_EQ(story.shown(2), computersInput);
 }
 
-TEST(OutputOffAndOnStory, AMonitorStaysOffWhenTheProgramIsStartedAgain) {
-    DeskStory story(test::usualDesk());
+TEST_P(OutputOffAndOnStory, AMonitorStaysOffWhenTheProgramIsStartedAgain) {
+    DeskStory story = at(test::usualDesk());
     story.picks(2, otherInput);
     story.waits(10s);
     story.quitsAndStartsAgain();
     EXPECT_EQ(story.card(2), "off");
-    EXPECT_EQ(story.rig.display(2)->name(), "Alder");
+    EXPECT_EQ(story.model(2)->name(), "Alder");
     story.turnsOn(2);
     story.waits(1s);
     EXPECT_EQ(story.card(2), "on, returning");
@@ -128,11 +128,11 @@ TEST(OutputOffAndOnStory, AMonitorStaysOffWhenTheProgramIsStartedAgain) {
     EXPECT_EQ(story.shown(2), computersInput);
 }
 
-TEST(OutputOffAndOnStory, TheCableIsPulledWhileTheMonitorIsOff) {
-    DeskStory story(test::usualDesk());
+TEST_P(OutputOffAndOnStory, TheCableIsPulledWhileTheMonitorIsOff) {
+    DeskStory story = at(test::usualDesk());
     story.turnsOff(2);
     story.waits(10s);
-    story.rig.world().unplug(2);
+    story.computer().unplug(2);
     story.waits(10s);
     EXPECT_EQ(story.card(2), "off");
     story.turnsOn(2);
@@ -140,49 +140,43 @@ TEST(OutputOffAndOnStory, TheCableIsPulledWhileTheMonitorIsOff) {
     EXPECT_EQ(story.errorText(), alderNotBackOn);
     EXPECT_EQ(story.card(2), "off");
     // As the text asks for. The system turns a display on that is plugged in.
-    story.rig.world().plug(2);
+    story.computer().plug(2);
     story.waits(1s);
     EXPECT_EQ(story.card(2), "on");
-    EXPECT_TRUE(story.rig.stored().empty());
+    EXPECT_TRUE(story.stored().empty());
 }
 
-TEST(OutputOffAndOnStory, AMonitorThatIsGoneForGoodIsForgotten) {
-    DeskStory story(test::usualDesk());
+TEST_P(OutputOffAndOnStory, AMonitorThatIsGoneForGoodIsForgotten) {
+    DeskStory story = at(test::usualDesk());
     story.turnsOff(2);
     story.waits(10s);
-    story.rig.world().unplug(2);
+    story.computer().unplug(2);
     story.waits(10s);
-    story.rig.manager->forget(story.rig.manager->disabled().at(0));
-    story.rig.manager->refresh();
+    story.manager().forget(story.manager().disabled().at(0));
+    story.manager().refresh();
     EXPECT_EQ(story.card(2), "none");
     story.quitsAndStartsAgain();
     EXPECT_EQ(story.card(2), "none");
     EXPECT_EQ(story.card(3), "on");
 }
 
-TEST(OutputOffAndOnStory, ADeadMonitorIsTurnedOffAndOnWithoutItsHelp) {
-    DeskStory story(shippedDesk("default"));
+TEST_P(OutputOffAndOnStory, ADeadMonitorIsTurnedOffAndOnWithoutItsHelp) {
+    DeskStory story = at(shippedDesk("default"));
+    const std::string tessera = story.model(5)->name() + " (id " + std::to_string(story.id(5)) + ")";
     story.turnsOff(5);
     story.waits(10s);
     EXPECT_EQ(story.card(5), "off");
-    EXPECT_EQ(
-        story.rig.log.moments("Turning Mac output off for Tessera T22 Panel (id 5), switching to nothing")
-            .size(),
-        1U);
+    EXPECT_EQ(story.logged("Turning Mac output off for " + tessera + ", switching to nothing"), 1);
     story.turnsOn(5);
     story.waits(1s);
     EXPECT_EQ(story.card(5), "on");
-    EXPECT_EQ(
-        story.rig.log
-            .moments("Turning Mac output back on for Tessera T22 Panel (id 5), no Mac input to switch to")
-            .size(),
-        1U);
+    EXPECT_EQ(story.logged("Turning Mac output back on for " + tessera + ", no Mac input to switch to"), 1);
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(OutputOffAndOnStory, ASlowMonitorThatPulsesIsTurnedOffAtOnce) {
-    DeskStory story(shippedDesk("slow"));
-    story.rig.display(2)->inputSettings().setFocusInput(std::uint16_t{0x12});
+TEST_P(OutputOffAndOnStory, ASlowMonitorThatPulsesIsTurnedOffAtOnce) {
+    DeskStory story = at(shippedDesk("slow"));
+    story.model(2)->inputSettings().setFocusInput(std::uint16_t{0x12});
     story.turnsOff(2);
     story.waits(400ms);
     EXPECT_EQ(story.card(2), "off");
@@ -201,12 +195,12 @@ TEST(OutputOffAndOnStory, ASlowMonitorThatPulsesIsTurnedOffAtOnce) {
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(OutputOffAndOnStory, AMonitorThatMisreportsItsInputsIsLearnedAsItIsMeant) {
-    DeskStory story(shippedDesk("default"));
-    story.rig.display(3)->inputSettings().setMacInput(std::nullopt);
+TEST_P(OutputOffAndOnStory, AMonitorThatMisreportsItsInputsIsLearnedAsItIsMeant) {
+    DeskStory story = at(shippedDesk("default"));
+    story.model(3)->inputSettings().setMacInput(std::nullopt);
     story.turnsOff(3);
     story.waits(1s);
-    EXPECT_EQ(story.rig.display(3)->inputSettings().macInput(), 0x0F);
+    EXPECT_EQ(story.model(3)->inputSettings().macInput(), 0x0F);
     story.turnsOn(3);
     story.waits(1s);
     story.waitsForTheSpinnerToEnd(3);
@@ -214,13 +208,13 @@ TEST(OutputOffAndOnStory, AMonitorThatMisreportsItsInputsIsLearnedAsItIsMeant) {
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(OutputOffAndOnStory, TheComputerSleepsWhileAMonitorIsOff) {
-    DeskStory story(test::usualDesk());
+TEST_P(OutputOffAndOnStory, TheComputerSleepsWhileAMonitorIsOff) {
+    DeskStory story = at(test::usualDesk());
     story.picks(2, otherInput);
     story.waits(10s);
-    story.rig.world().sleep();
+    story.computer().sleep();
     story.waits(8h);
-    story.rig.world().wake();
+    story.computer().wake();
     story.waits(10s);
     EXPECT_EQ(story.card(2), "off");
     EXPECT_EQ(story.card(3), "on");
@@ -231,18 +225,18 @@ TEST(OutputOffAndOnStory, TheComputerSleepsWhileAMonitorIsOff) {
     EXPECT_EQ(story.shown(2), computersInput);
 }
 
-TEST(OutputOffAndOnStory, SoftwareDimmingComesBackWithTheOutput) {
-    DeskStory story(test::usualDesk());
-    story.rig.display(2)->setControlMode(model::ControlMode::software);
-    story.rig.display(2)->dimmer().setBrightness(0.4);
-    const auto dimmed = story.rig.displays.transferTable(2, 256);
+TEST_P(OutputOffAndOnStory, SoftwareDimmingComesBackWithTheOutput) {
+    DeskStory story = at(test::usualDesk());
+    story.model(2)->setControlMode(model::ControlMode::software);
+    story.model(2)->dimmer().setBrightness(0.4);
+    const auto dimmed = story.computer().table(2);
     story.turnsOff(2);
     story.waits(10s);
-    EXPECT_FALSE(story.rig.display(2)->usesSoftwareControls());
+    EXPECT_FALSE(story.model(2)->usesSoftwareControls());
     story.turnsOn(2);
     story.waits(10s);
-    EXPECT_TRUE(story.rig.display(2)->usesSoftwareControls());
-    EXPECT_EQ(story.rig.displays.transferTable(2, 256), dimmed);
+    EXPECT_TRUE(story.model(2)->usesSoftwareControls());
+    EXPECT_EQ(story.computer().table(2), dimmed);
 }
 
 }  // namespace

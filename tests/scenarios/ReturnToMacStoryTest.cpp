@@ -2,8 +2,8 @@
 // of monitor that makes this hard.
 #include <gtest/gtest.h>
 
-#include "support/DeskStory.h"
-#include "support/ModelRig.h"
+#include "scenarios/Stories.h"
+#include "support/ShippedDesk.h"
 
 namespace vantrel {
 namespace {
@@ -32,8 +32,8 @@ simulated::Desk deskWith(simulated::DisplayPlan alder) { return deskOf({panelPla
 const std::string alderGaveUp =
     "Alder did not return to the Mac's input. Try again or use the monitor's buttons.";
 
-TEST(ReturnToMacStory, AGoodMonitorGoesAndComesBack) {
-    DeskStory story(shippedDesk("default"));
+TEST_P(ReturnToMacStory, AGoodMonitorGoesAndComesBack) {
+    DeskStory story = at(shippedDesk("default"));
     story.picks(2, 0x11);
     story.waits(1s);
     EXPECT_EQ(story.card(2), "off");
@@ -55,8 +55,8 @@ TEST(ReturnToMacStory, AGoodMonitorGoesAndComesBack) {
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(ReturnToMacStory, ASlowMonitorThatPulsesKeepsItsSpinnerAllTheWay) {
-    DeskStory story(deskWith(slowPlan()));
+TEST_P(ReturnToMacStory, ASlowMonitorThatPulsesKeepsItsSpinnerAllTheWay) {
+    DeskStory story = at(deskWith(slowPlan()));
     story.picks(2, otherInput);
     story.waits(1s);
     EXPECT_EQ(story.card(2), "off");
@@ -71,7 +71,7 @@ TEST(ReturnToMacStory, ASlowMonitorThatPulsesKeepsItsSpinnerAllTheWay) {
     // In the middle of the pulse: off the bus and the list.
     story.waits(1800ms);
     EXPECT_EQ(story.card(2), "none");
-    EXPECT_TRUE(story.rig.display(2)->isReturningToMac());
+    EXPECT_TRUE(story.model(2)->isReturningToMac());
     // And back, while the monitor still is on its way.
     story.waits(1500ms);
     EXPECT_EQ(story.card(2), "on, returning");
@@ -85,13 +85,13 @@ TEST(ReturnToMacStory, ASlowMonitorThatPulsesKeepsItsSpinnerAllTheWay) {
 
 // Every other of its answers comes too late, so that it takes a while to learn
 // where the computer is.
-TEST(ReturnToMacStory, ASlowMonitorThatAnswersTooLateComesBackToo) {
-    DeskStory story(shippedDesk("slow"));
+TEST_P(ReturnToMacStory, ASlowMonitorThatAnswersTooLateComesBackToo) {
+    DeskStory story = at(shippedDesk("slow"));
     for (int time = 0; time < 5; ++time) {
         story.opensThePopover();
         story.waits(10s);
     }
-    ASSERT_EQ(story.rig.display(2)->inputSettings().macInput(), 0x0F);
+    ASSERT_EQ(story.model(2)->inputSettings().macInput(), 0x0F);
     story.picks(2, 0x11);
     story.waits(10s);
     EXPECT_EQ(story.card(2), "off");
@@ -105,8 +105,8 @@ TEST(ReturnToMacStory, ASlowMonitorThatAnswersTooLateComesBackToo) {
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(ReturnToMacStory, AMonitorThatMisreportsItsInputsComesBackAtOnce) {
-    DeskStory story(shippedDesk("default"));
+TEST_P(ReturnToMacStory, AMonitorThatMisreportsItsInputsComesBackAtOnce) {
+    DeskStory story = at(shippedDesk("default"));
     story.picks(3, 0x11);
     story.waits(10s);
     EXPECT_EQ(story.card(3), "off");
@@ -116,12 +116,12 @@ TEST(ReturnToMacStory, AMonitorThatMisreportsItsInputsComesBackAtOnce) {
     EXPECT_EQ(story.card(3), "on, returning");
     EXPECT_LT(story.waitsForTheSpinnerToEnd(3), 5s);
     EXPECT_EQ(story.shown(3), 0x0F);
-    EXPECT_EQ(story.rig.display(3)->feature(0x60)->current.get(), 0x0F);
+    EXPECT_EQ(story.model(3)->feature(0x60)->current.get(), 0x0F);
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(ReturnToMacStory, AMonitorWithoutACapabilitiesStringComesBack) {
-    DeskStory story(shippedDesk("default"));
+TEST_P(ReturnToMacStory, AMonitorWithoutACapabilitiesStringComesBack) {
+    DeskStory story = at(shippedDesk("default"));
     story.picks(4, 0x0F);
     story.waits(10s);
     EXPECT_EQ(story.shown(4), 0x0F);
@@ -132,9 +132,9 @@ TEST(ReturnToMacStory, AMonitorWithoutACapabilitiesStringComesBack) {
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(ReturnToMacStory, AMonitorThatBlinksAndGoesBackIsAskedAgain) {
-    DeskStory story(shippedDesk("stubborn"));
-    story.rig.monitor(6).pressInputButton(0x0F);
+TEST_P(ReturnToMacStory, AMonitorThatBlinksAndGoesBackIsAskedAgain) {
+    DeskStory story = at(shippedDesk("stubborn"));
+    story.monitor(6).pressInputButton(0x0F);
     story.waits(5s);
     ASSERT_EQ(story.shown(6), 0x0F);
     story.picks(6, 0x11);
@@ -145,20 +145,20 @@ TEST(ReturnToMacStory, AMonitorThatBlinksAndGoesBackIsAskedAgain) {
     story.waitsForTheSpinnerToEnd(6);
     EXPECT_EQ(story.shown(6), 0x11);
     EXPECT_EQ(story.errorText(), "");
-    EXPECT_EQ(story.rig.log.moments("Orlo O24: switching to Mac input 0x11, attempt 2").size(), 1U);
-    EXPECT_TRUE(story.rig.log.moments("Orlo O24: switching to Mac input 0x11, attempt 3").empty());
+    EXPECT_EQ(story.logged("Orlo O24: switching to Mac input 0x11, attempt 2"), 1);
+    EXPECT_EQ(story.logged("Orlo O24: switching to Mac input 0x11, attempt 3"), 0);
 }
 
-TEST(ReturnToMacStory, AMonitorThatReportsTooEarlyAndFallsBackIsFoundOut) {
+TEST_P(ReturnToMacStory, AMonitorThatReportsTooEarlyAndFallsBackIsFoundOut) {
     simulated::DisplayPlan plan = monitorPlan(2, "Alder");
     plan.monitor->personality.inputSwitch.ignored.first = 0;
-    DeskStory story(deskWith(plan));
+    DeskStory story = at(deskWith(plan));
     story.picks(2, otherInput);
     story.waits(10s);
     story.turnsOn(2);
     // Two readings are right, then it falls back to the other computer.
     story.waits(1500ms + 1500ms);
-    story.rig.monitor(2).pressInputButton(otherInput);
+    story.monitor(2).pressInputButton(otherInput);
     story.waits(10s);
     EXPECT_EQ(story.card(2), "on, returning");
     story.waitsForTheSpinnerToEnd(2);
@@ -166,10 +166,10 @@ TEST(ReturnToMacStory, AMonitorThatReportsTooEarlyAndFallsBackIsFoundOut) {
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(ReturnToMacStory, ADeafMonitorIsGivenUpAndComesBackByItsButton) {
+TEST_P(ReturnToMacStory, ADeafMonitorIsGivenUpAndComesBackByItsButton) {
     simulated::DisplayPlan plan = monitorPlan(2, "Alder");
     plan.monitor->personality.silentOnOtherInputs = true;
-    DeskStory story(deskWith(plan));
+    DeskStory story = at(deskWith(plan));
     story.picks(2, otherInput);
     story.waits(10s);
     EXPECT_EQ(story.shown(2), otherInput);
@@ -184,7 +184,7 @@ TEST(ReturnToMacStory, ADeafMonitorIsGivenUpAndComesBackByItsButton) {
     EXPECT_EQ(story.card(2), "on");
 
     // The text says what helps.
-    story.rig.monitor(2).pressInputButton(computersInput);
+    story.monitor(2).pressInputButton(computersInput);
     story.picks(2, computersInput);
     story.waits(1s);
     EXPECT_EQ(story.errorText(), alderGaveUp);
@@ -192,22 +192,22 @@ TEST(ReturnToMacStory, ADeafMonitorIsGivenUpAndComesBackByItsButton) {
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(ReturnToMacStory, ADeafMonitorWhoseButtonIsPressedInTimeNeedsNoSecondTry) {
+TEST_P(ReturnToMacStory, ADeafMonitorWhoseButtonIsPressedInTimeNeedsNoSecondTry) {
     simulated::DisplayPlan plan = monitorPlan(2, "Alder");
     plan.monitor->personality.silentOnOtherInputs = true;
-    DeskStory story(deskWith(plan));
+    DeskStory story = at(deskWith(plan));
     story.picks(2, otherInput);
     story.waits(10s);
     story.turnsOn(2);
     story.waits(30s);
-    story.rig.monitor(2).pressInputButton(computersInput);
+    story.monitor(2).pressInputButton(computersInput);
     EXPECT_LT(story.waitsForTheSpinnerToEnd(2), 5s);
     EXPECT_EQ(story.errorText(), "");
     EXPECT_EQ(story.card(2), "on");
 }
 
-TEST(ReturnToMacStory, ADeadMonitorHasNoSpinnerAndNoErrorText) {
-    DeskStory story(shippedDesk("default"));
+TEST_P(ReturnToMacStory, ADeadMonitorHasNoSpinnerAndNoErrorText) {
+    DeskStory story = at(shippedDesk("default"));
     story.picks(5, 0x11);
     story.waits(10s);
     EXPECT_EQ(story.card(5), "on");
@@ -215,43 +215,43 @@ TEST(ReturnToMacStory, ADeadMonitorHasNoSpinnerAndNoErrorText) {
     EXPECT_TRUE(story.hasPicture(5));
 }
 
-TEST(ReturnToMacStory, AMonitorThatDiesOnTheWayIsGivenUp) {
-    DeskStory story(deskWith(monitorPlan(2, "Alder")));
+TEST_P(ReturnToMacStory, AMonitorThatDiesOnTheWayIsGivenUp) {
+    DeskStory story = at(deskWith(monitorPlan(2, "Alder")));
     story.picks(2, otherInput);
     story.waits(10s);
     story.turnsOn(2);
     story.waits(1s);
-    story.rig.monitor(2).setPower(simulated::SimulatedMonitor::Power::off);
+    story.monitor(2).setPower(simulated::SimulatedMonitor::Power::off);
     story.waitsForTheSpinnerToEnd(2);
     EXPECT_EQ(story.errorText(), alderGaveUp);
     EXPECT_EQ(story.card(2), "on");
 }
 
-TEST(ReturnToMacStory, AMonitorThatIsUnpluggedOnTheWayIsGivenUp) {
-    DeskStory story(deskWith(monitorPlan(2, "Alder")));
+TEST_P(ReturnToMacStory, AMonitorThatIsUnpluggedOnTheWayIsGivenUp) {
+    DeskStory story = at(deskWith(monitorPlan(2, "Alder")));
     story.picks(2, otherInput);
     story.waits(10s);
     story.turnsOn(2);
     story.waits(1s);
-    story.rig.world().unplug(2);
+    story.computer().unplug(2);
     story.waits(1s);
     EXPECT_EQ(story.card(2), "none");
     story.waitsForTheSpinnerToEnd(2);
     EXPECT_EQ(story.errorText(), alderGaveUp);
-    story.rig.world().plug(2);
+    story.computer().plug(2);
     story.waits(1s);
     EXPECT_EQ(story.card(2), "on");
 }
 
-TEST(ReturnToMacStory, AMonitorThatIsDeafAfterWakingComesBackOnceItHears) {
-    DeskStory story(shippedDesk("wake"));
+TEST_P(ReturnToMacStory, AMonitorThatIsDeafAfterWakingComesBackOnceItHears) {
+    DeskStory story = at(shippedDesk("wake"));
     // It wasn't ready when the program started.
     story.asksAgainForControls(3);
     story.waits(10s);
-    story.rig.monitor(3).pressInputButton(0x0F);
-    story.rig.world().sleep();
+    story.monitor(3).pressInputButton(0x0F);
+    story.computer().sleep();
     story.waits(8h);
-    story.rig.world().wake();
+    story.computer().wake();
     story.waits(1s);
     story.picks(3, 0x11);
     story.waits(20s);
@@ -262,10 +262,10 @@ TEST(ReturnToMacStory, AMonitorThatIsDeafAfterWakingComesBackOnceItHears) {
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(ReturnToMacStory, SecondThoughtsWinOverAReturn) {
+TEST_P(ReturnToMacStory, SecondThoughtsWinOverAReturn) {
     simulated::DisplayPlan plan = monitorPlan(2, "Alder");
     plan.monitor->personality.inputSwitch.time = 4s;
-    DeskStory story(deskWith(plan));
+    DeskStory story = at(deskWith(plan));
     story.picks(2, otherInput);
     story.waits(10s);
     story.turnsOn(2);
@@ -280,11 +280,11 @@ TEST(ReturnToMacStory, SecondThoughtsWinOverAReturn) {
     EXPECT_EQ(story.errorText(), "");
 }
 
-TEST(ReturnToMacStory, ClickingAgainAndAgainChangesNothing) {
+TEST_P(ReturnToMacStory, ClickingAgainAndAgainChangesNothing) {
     simulated::DisplayPlan plan = monitorPlan(2, "Alder");
     plan.monitor->personality.inputSwitch.time = 4s;
-    DeskStory story(deskWith(plan));
-    story.rig.monitor(2).pressInputButton(otherInput);
+    DeskStory story = at(deskWith(plan));
+    story.monitor(2).pressInputButton(otherInput);
     story.waits(10s);
     for (int click = 0; click < 10; ++click) {
         story.picks(2, computersInput);
@@ -292,11 +292,11 @@ TEST(ReturnToMacStory, ClickingAgainAndAgainChangesNothing) {
     }
     story.waitsForTheSpinnerToEnd(2);
     EXPECT_EQ(story.shown(2), computersInput);
-    EXPECT_EQ(story.rig.log.moments("Alder: switching to Mac input 0x0F, attempt 1").size(), 1U);
+    EXPECT_EQ(story.logged("Alder: switching to Mac input 0x0F, attempt 1"), 1);
 }
 
-TEST(ReturnToMacStory, TwoMonitorsComeBackAtTheSameTime) {
-    DeskStory story(deskOf({panelPlan(), monitorPlan(2, "Alder"), monitorPlan(3, "Birch")}));
+TEST_P(ReturnToMacStory, TwoMonitorsComeBackAtTheSameTime) {
+    DeskStory story = at(deskOf({panelPlan(), monitorPlan(2, "Alder"), monitorPlan(3, "Birch")}));
     story.picks(2, otherInput);
     story.picks(3, thirdInput);
     story.waits(10s);
@@ -313,12 +313,9 @@ TEST(ReturnToMacStory, TwoMonitorsComeBackAtTheSameTime) {
 }
 
 // On each of these a write alone is not enough.
-class StubbornMonitorStory : public testing::TestWithParam<platform::DisplayID> {};
-INSTANTIATE_TEST_SUITE_P(Displays, StubbornMonitorStory, testing::Values(2U, 3U, 4U, 5U, 6U));
-
 TEST_P(StubbornMonitorStory, ComesBackWithoutAnError) {
-    const auto id = GetParam();
-    DeskStory story(shippedDesk("stubborn"));
+    const auto [make, id] = GetParam();
+    DeskStory story(make(shippedDesk("stubborn")));
     const std::uint16_t home = story.shown(id);
     const std::uint16_t away = home == 0x0F ? 0x11 : 0x0F;
     story.picks(id, away);

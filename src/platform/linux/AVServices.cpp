@@ -16,8 +16,8 @@ constexpr std::uint32_t highestAddress = 0x77;
 
 const void* AVServices::create(platform::DisplayID display) {
     const auto found = inventory_.display(display);
-    if (!found || !found->adapter) return nullptr;
-    auto service = std::make_unique<Service>(Service{display, *found->adapter});
+    if (!found || found->connector.isBuiltIn()) return nullptr;
+    auto service = std::make_unique<Service>(Service{display, found->adapter});
     const void* handle = service.get();
     const std::lock_guard lock(mutex_);
     services_.emplace(handle, std::move(service));
@@ -48,8 +48,8 @@ template <class Transfer>
 std::int32_t AVServices::transfer(const void* service, std::uint32_t chip, const Transfer& transfer) {
     const Service used = find(service);
     if (chip > highestAddress) return EINVAL;
-    const int error = inventory_.isThere(used.adapter)
-                          ? transfer(used.adapter.bus, static_cast<std::uint8_t>(chip))
+    const int error = used.adapter && inventory_.leadsTo(used.display, *used.adapter)
+                          ? transfer(used.adapter->bus, static_cast<std::uint8_t>(chip))
                           : ENODEV;
     answers_.note(used.display, error);
     return error;

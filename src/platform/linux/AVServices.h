@@ -1,7 +1,9 @@
 // The AV service handles that the program holds: each the way to one monitor's I2C bus.
 //
 // A handle is for the adapter that it was made for. When that has gone (a dock unplugged,
-// a driver loaded again), transfers fail with ENODEV until the program takes a fresh one.
+// a driver loaded again) or leads to another monitor, transfers fail with ENODEV until the
+// program takes a fresh one. So they do for a monitor without a bus, which has a handle all
+// the same: the program gives a monitor without one the handle that resembles it most.
 // Only a live handle may be used or released: anything else stops the program.
 // Threads: any. Statuses: 0, or an errno.
 #pragma once
@@ -11,6 +13,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <span>
 
 #include "platform/linux/AnswerLog.h"
@@ -27,7 +30,7 @@ class AVServices {
     AVServices(const AVServices&) = delete;
     AVServices& operator=(const AVServices&) = delete;
 
-    // The registry's object of a display is its identifier. Null without a bus that leads to it.
+    // The registry's object of a display is its identifier. Null for a built-in panel.
     const void* create(platform::DisplayID display);
     void release(const void* service);
     // The data address is the first byte of the message, as DDC/CI has it on the bus.
@@ -41,7 +44,7 @@ class AVServices {
   private:
     struct Service {
         platform::DisplayID display = 0;
-        Adapter adapter;
+        std::optional<Adapter> adapter;
     };
 
     Service find(const void* service) const;

@@ -77,11 +77,14 @@ void Inventory::findAdapters(Displays& displays) {
     for (Display& display : displays) {
         if (display.connector.isBuiltIn()) continue;
         display.adapter = Adapters::ofConnector(sysfs_, display.connector);
-        if (!display.adapter) {
-            display.adapter = askedBefore(display.connector);
-            if (display.adapter) note(asked, display);
-        }
         if (display.adapter) found.insert(display.adapter->bus);
+    }
+    for (Display& display : displays) {
+        if (display.adapter || display.connector.isBuiltIn()) continue;
+        display.adapter = askedBefore(display.connector, found);
+        if (!display.adapter) continue;
+        note(asked, display);
+        found.insert(display.adapter->bus);
     }
     for (Display& display : displays) {
         if (display.adapter || display.connector.isBuiltIn()) continue;
@@ -98,11 +101,21 @@ void Inventory::note(std::map<std::string, Asked>& asked, const Display& display
     asked.emplace(display.connector.folder, Asked{display.connector.edid, *display.adapter});
 }
 
-std::optional<Adapter> Inventory::askedBefore(const Connector& connector) const {
+std::optional<Adapter> Inventory::askedBefore(const Connector& connector,
+                                              const std::set<I2CDevices::Bus>& others) const {
     const auto before = asked_.find(connector.folder);
     if (before == asked_.end() || before->second.edid != connector.edid) return std::nullopt;
-    if (!isThere(before->second.adapter)) return std::nullopt;
-    return before->second.adapter;
+    const Adapter& adapter = before->second.adapter;
+    if (others.contains(adapter.bus) || !Adapters::isThere(sysfs_, adapter)) return std::nullopt;
+    return adapter;
+}
+
+bool Inventory::leadsTo(DisplayID display, const Adapter& adapter) const {
+    const auto displays = this->displays();
+    const bool isAnothers = std::any_of(displays->begin(), displays->end(), [&](const Display& other) {
+        return other.id != display && other.adapter == adapter;
+    });
+    return !isAnothers && Adapters::isThere(sysfs_, adapter);
 }
 
 void Inventory::ask(Display& display, const std::set<I2CDevices::Bus>& others) {

@@ -49,8 +49,9 @@ class Inventory {
     // In the order of graphics devices and connectors.
     std::shared_ptr<const Displays> displays() const;
     std::optional<Display> display(platform::DisplayID id) const;
-    // Whether the transfer would still reach the monitor that the adapter was found for.
-    bool isThere(const Adapter& adapter) const { return Adapters::isThere(sysfs_, adapter); }
+    // Whether the adapter that was found for the display is there, and hasn't been found for
+    // another one since.
+    bool leadsTo(platform::DisplayID display, const Adapter& adapter) const;
 
   private:
     // Main thread. What was found out by asking the monitor.
@@ -61,8 +62,9 @@ class Inventory {
 
     void findAdapters(Displays& displays);
     static void note(std::map<std::string, Asked>& asked, const Display& display);
-    // What was found out at an earlier look, if it still holds.
-    std::optional<Adapter> askedBefore(const Connector& connector) const;
+    // What was found out at an earlier look, if it still holds and isn't another's now.
+    std::optional<Adapter> askedBefore(const Connector& connector,
+                                       const std::set<I2CDevices::Bus>& others) const;
     // Asks every bus of the graphics device but `others`, which lead to other monitors.
     void ask(Display& display, const std::set<I2CDevices::Bus>& others);
 

@@ -49,6 +49,9 @@ void Testbed::add(const Device& device) {
 
 void Testbed::remove(const std::string& path) {
     event(path, "remove");
+    // umockdev leaves it, and then takes no other device of that number.
+    if (const std::string number = attribute(path, "dev"); !number.empty())
+        removeLink("/sys/dev/char", number);
     umockdev_testbed_remove_device(testbed_.get(), path.c_str());
 }
 
