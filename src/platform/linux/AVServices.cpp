@@ -1,10 +1,7 @@
 #include "platform/linux/AVServices.h"
 
 #include <cerrno>
-#include <utility>
 #include <vector>
-
-#include "runtime/Fatal.h"
 
 namespace vantrel::linux {
 namespace {
@@ -17,16 +14,7 @@ constexpr std::uint32_t highestAddress = 0x77;
 const void* AVServices::create(platform::DisplayID display) {
     const auto found = inventory_.display(display);
     if (!found || found->connector.isBuiltIn()) return nullptr;
-    auto service = std::make_unique<Service>(Service{display, found->adapter});
-    const void* handle = service.get();
-    const std::lock_guard lock(mutex_);
-    services_.emplace(handle, std::move(service));
-    return handle;
-}
-
-void AVServices::release(const void* service) {
-    const std::lock_guard lock(mutex_);
-    runtime::require(services_.erase(service) == 1, "an AV service was released that nobody holds");
+    return handles_.add({display, found->adapter});
 }
 
 std::int32_t AVServices::write(const void* service, std::uint32_t chip, std::uint32_t dataAddress,
@@ -46,25 +34,13 @@ std::int32_t AVServices::read(const void* service, std::uint32_t chip, std::span
 
 template <class Transfer>
 std::int32_t AVServices::transfer(const void* service, std::uint32_t chip, const Transfer& transfer) {
-    const Service used = find(service);
+    const Service used = handles_.find(service);
     if (chip > highestAddress) return EINVAL;
     const int error = used.adapter && inventory_.leadsTo(used.display, *used.adapter)
                           ? transfer(used.adapter->bus, static_cast<std::uint8_t>(chip))
                           : ENODEV;
     answers_.note(used.display, error);
     return error;
-}
-
-std::size_t AVServices::live() const {
-    const std::lock_guard lock(mutex_);
-    return services_.size();
-}
-
-AVServices::Service AVServices::find(const void* service) const {
-    const std::lock_guard lock(mutex_);
-    const auto found = services_.find(service);
-    runtime::require(found != services_.end(), "a transfer through an AV service that nobody holds");
-    return *found->second;
 }
 
 }  // namespace vantrel::linux

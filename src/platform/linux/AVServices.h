@@ -10,12 +10,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
-#include <memory>
-#include <mutex>
 #include <optional>
 #include <span>
 
+#include "platform/AVServiceHandles.h"
 #include "platform/linux/AnswerLog.h"
 #include "platform/linux/I2CDevices.h"
 #include "platform/linux/Inventory.h"
@@ -32,14 +30,14 @@ class AVServices {
 
     // The registry's object of a display is its identifier. Null for a built-in panel.
     const void* create(platform::DisplayID display);
-    void release(const void* service);
+    void release(const void* service) { handles_.release(service); }
     // The data address is the first byte of the message, as DDC/CI has it on the bus.
     std::int32_t write(const void* service, std::uint32_t chip, std::uint32_t dataAddress,
                        std::span<const std::uint8_t> bytes);
     // DDC/CI replies have no address within.
     std::int32_t read(const void* service, std::uint32_t chip, std::span<std::uint8_t> bytes);
     // Handles that were created and not yet released.
-    std::size_t live() const;
+    std::size_t live() const { return handles_.live(); }
 
   private:
     struct Service {
@@ -47,15 +45,13 @@ class AVServices {
         std::optional<Adapter> adapter;
     };
 
-    Service find(const void* service) const;
     template <class Transfer>
     std::int32_t transfer(const void* service, std::uint32_t chip, const Transfer& transfer);
 
     const Inventory& inventory_;
     I2CDevices& buses_;
     AnswerLog& answers_;
-    mutable std::mutex mutex_;
-    std::map<const void*, std::unique_ptr<Service>> services_;
+    platform::AVServiceHandles<Service> handles_;
 };
 
 }  // namespace vantrel::linux

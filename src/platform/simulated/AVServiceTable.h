@@ -6,11 +6,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
-#include <memory>
-#include <mutex>
 #include <span>
 
+#include "platform/AVServiceHandles.h"
 #include "platform/simulated/World.h"
 
 namespace vantrel::simulated {
@@ -26,13 +24,13 @@ class AVServiceTable {
     // Null unless the entry is the proxy of a connected display whose cable
     // carries DDC/CI.
     const void* create(std::uint32_t registryEntry);
-    void release(const void* service);
+    void release(const void* service) { handles_.release(service); }
     std::int32_t write(const void* service, std::uint32_t chip, std::uint32_t dataAddress,
                        std::span<const std::uint8_t> bytes);
     // The offset means nothing to DDC/CI.
     std::int32_t read(const void* service, std::uint32_t chip, std::span<std::uint8_t> bytes);
     // Handles that were created and not yet released.
-    std::size_t live() const;
+    std::size_t live() const { return handles_.live(); }
 
   private:
     struct Service {
@@ -42,13 +40,11 @@ class AVServiceTable {
         std::uint64_t reconfigurations = 0;
     };
 
-    Service find(const void* service) const;
     // Whether a transfer reaches the bus at all.
     std::int32_t linkStatus(const Service& service) const;
 
     World& world_;
-    mutable std::mutex mutex_;
-    std::map<const void*, std::unique_ptr<Service>> services_;
+    platform::AVServiceHandles<Service> handles_;
 };
 
 }  // namespace vantrel::simulated
