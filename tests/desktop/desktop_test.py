@@ -63,9 +63,9 @@ class TrayTests:
     def start_and_open(self):
         program = self.start()
         self.screen.click(self.icon.center)
-        # A panel that takes long to be laid out moves the icon away from the pointer.
-        wait_for("the popover", lambda: program.popover() or self.tray.place(program) != self.icon)
-        if not program.popover():
+        # A panel that takes long to be laid out moves the icon away from the pointer, or hears
+        # nothing yet where it shows it already: so a person clicks once more.
+        if not happens(program.popover, within=5):
             self.icon = self.tray.icon(program)
             self.screen.click(self.icon.center)
         self.popover = program.wait_for_popover()
@@ -153,8 +153,8 @@ class TrayTests:
         program.wait_for_log(f"{MONITOR}: loaded")
         self.screen.key("Escape")
         program.wait_for_no_popover()
-        wait_for("the program to rest", lambda: program.switches_in(seconds=0.5) == 0)
-        self.assertLessEqual(program.switches_in(seconds=3), 5)
+        # The panel goes on asking for a while; a timer would never be so still.
+        wait_for("the program to rest", lambda: program.switches_in(seconds=3) <= 5)
 
 
 class EmbeddingTrayTest(TrayTests, DesktopTest):
