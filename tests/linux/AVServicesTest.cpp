@@ -42,6 +42,8 @@ class AVServicesTest : public InventoryRig {
         left = idOf("card0-DP-1");
         right = idOf("card0-DP-2");
     }
+    // What was given up may still reach a monitor.
+    ~AVServicesTest() override { time.finishThreads(); }
 
     std::int32_t write(const void* service, std::uint32_t to = chip) {
         return services.write(service, to, 0x51, Bytes{0x82, 0x01});

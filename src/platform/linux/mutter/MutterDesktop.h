@@ -66,8 +66,9 @@ class MutterDesktop : public linux::Desktop {
     // By CRTC, as long as the serial is the same.
     std::map<std::uint32_t, std::uint32_t> capacities_;
     std::uint32_t capacitiesSerial_ = 0;
-    std::unique_ptr<linux::ChangeNotice> notice_;
     std::optional<runtime::MainLoop::TimerID> again_;
+    // Made last: with what there is at first.
+    std::unique_ptr<linux::ChangeNotice> notice_;
 };
 
 }  // namespace vantrel::mutter
