@@ -8,6 +8,7 @@
 // Errors: a desktop that has gone has no outputs and refuses everything.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -54,6 +55,12 @@ class Desktop {
     virtual bool isThere() { return !outputs().empty(); }
     // In the desktop's order, connected or not.
     virtual std::vector<Output> outputs() = 0;
+    // Whether there is a way to any output's table.
+    bool hasTables() {
+        const auto all = outputs();
+        return std::any_of(all.begin(), all.end(),
+                           [](const Output& output) { return output.tableCapacity > 0; });
+    }
 
     // Nothing when it can't be read.
     virtual std::optional<platform::TransferTable> table(const std::string& output) = 0;

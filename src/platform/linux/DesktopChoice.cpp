@@ -1,6 +1,5 @@
 #include "platform/linux/DesktopChoice.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/linux/NoDesktop.h"
@@ -8,17 +7,11 @@
 namespace vantrel::linux {
 namespace {
 
-bool hasTables(Desktop& desktop) {
-    const auto outputs = desktop.outputs();
-    return std::any_of(outputs.begin(), outputs.end(),
-                       [](const Desktop::Output& output) { return output.tableCapacity > 0; });
-}
-
 enum class Use { none, listed, tables, switching };
 
 Use useOf(Desktop& desktop) {
     if (desktop.canSwitch()) return Use::switching;
-    return hasTables(desktop) ? Use::tables : Use::listed;
+    return desktop.hasTables() ? Use::tables : Use::listed;
 }
 
 }  // namespace

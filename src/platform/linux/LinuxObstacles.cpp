@@ -24,20 +24,18 @@ void addOnce(std::vector<Text>& texts, Text text) {
 
 std::vector<Text> LinuxObstacles::find() {
     std::vector<Text> obstacles;
-    bool isAnyWithoutTable = false;
     const auto displays = inventory_.displays();
     for (const Inventory::Display& display : *displays) {
         if (!displays_.isOnline(display.id) || display.connector.isBuiltIn()) continue;
         auto found = obstacle(display);
         if (!found) continue;
         addOnce(obstacles, *std::move(found));
-        if (displays_.transferTableCapacity(display.id) == 0) isAnyWithoutTable = true;
     }
-    if (isAnyWithoutTable) {
-        addOnce(obstacles,
-                Text::translated("The picture can't be dimmed instead: %@ gives programs no way to it. A "
-                                 "session on Xorg does; it can be chosen when you log in.",
-                                 {desktop_.name()}));
+    if (!obstacles.empty() && !desktop_.hasTables()) {
+        obstacles.push_back(
+            Text::translated("The picture can't be dimmed instead: %@ gives programs no way to it. Most "
+                             "sessions on Xorg do; one can be chosen when you log in.",
+                             {desktop_.name()}));
     }
     return obstacles;
 }
