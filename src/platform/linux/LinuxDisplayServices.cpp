@@ -4,6 +4,7 @@
 #include <set>
 
 #include "platform/linux/OutputMatch.h"
+#include "platform/linux/Status.h"
 #include "runtime/Fatal.h"
 
 namespace vantrel::linux {
@@ -15,9 +16,6 @@ namespace {
 
 // The display is what it was, but not quite: mode, place, bus.
 constexpr std::uint32_t setModeFlag = 1U << 3;
-// Statuses of Core Graphics.
-constexpr std::int32_t success = 0;
-constexpr std::int32_t illegalArgument = 1001;
 
 }  // namespace
 
@@ -137,9 +135,9 @@ std::int32_t LinuxDisplayServices::configureEnabled(Configuration configuration,
                                                     Output output) {
     Changes& changes = *find(configuration);
     look();
-    if (outputOf(display) == nullptr) return illegalArgument;
+    if (outputOf(display) == nullptr) return Status::illegalArgument;
     changes.push_back({display, output});
-    return success;
+    return Status::success;
 }
 
 bool LinuxDisplayServices::completeConfiguration(Configuration configuration, std::uint32_t) {

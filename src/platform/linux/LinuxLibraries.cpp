@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "platform/linux/Status.h"
 #include "runtime/Fatal.h"
 
 namespace vantrel::linux {
@@ -17,9 +18,6 @@ LinuxLibraries& libraries() {
     runtime::require(libraries != nullptr, "a system function was called after its library had gone");
     return *libraries;
 }
-
-constexpr std::int32_t success = 0;
-constexpr std::int32_t failure = 1000;
 
 extern "C" {
 
@@ -48,16 +46,16 @@ static std::int32_t linuxConfigureDisplayEnabled(void* configuration, std::uint3
 }
 
 static std::int32_t linuxGetBrightness(std::uint32_t display, float* level) {
-    if (!libraries().displays().isBuiltIn(display)) return failure;
+    if (!libraries().displays().isBuiltIn(display)) return Status::failure;
     const std::optional<float> found = libraries().backlight().level();
-    if (!found) return failure;
+    if (!found) return Status::failure;
     *level = *found;
-    return success;
+    return Status::success;
 }
 
 static std::int32_t linuxSetBrightness(std::uint32_t display, float level) {
-    if (!libraries().displays().isBuiltIn(display)) return failure;
-    return libraries().backlight().setLevel(level) ? success : failure;
+    if (!libraries().displays().isBuiltIn(display)) return Status::failure;
+    return libraries().backlight().setLevel(level) ? Status::success : Status::failure;
 }
 
 }  // extern "C"
