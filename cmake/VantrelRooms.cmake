@@ -51,10 +51,14 @@ function(vantrel_room name)
   endif()
 endfunction()
 
-# vantrel_tests(<room> [FOLDER <folder of tests/>] [ONLY|EXCEPT <pattern of paths>] [RUN_BY <program>]
+# vantrel_tests(<room> [ON_ONE_THREAD] [FOLDER <folder of tests/>] [ONLY|EXCEPT <pattern of paths>] [RUN_BY <program>]
 #               [LINKS <library>...]): every tests/<room>/*.cpp but a main.cpp, one ctest entry.
+# ON_ONE_THREAD: what may race there is in the tests of the rooms below, so the thread sanitizer needn't look.
 function(vantrel_tests room)
-  cmake_parse_arguments(TESTS "" "FOLDER;ONLY;EXCEPT;RUN_BY" "LINKS" ${ARGN})
+  cmake_parse_arguments(TESTS "ON_ONE_THREAD" "FOLDER;ONLY;EXCEPT;RUN_BY" "LINKS" ${ARGN})
+  if(TESTS_ON_ONE_THREAD AND VANTREL_SANITIZERS STREQUAL "thread")
+    return()
+  endif()
   if(NOT TESTS_FOLDER)
     set(TESTS_FOLDER ${room})
   endif()
