@@ -138,6 +138,7 @@ simulated::Desk make(platform::Platform& platform, const Recording& recording) {
     const Owners owners = findOwners(platform, recording, desk.displays);
     desk.registry = registry(entries, owners);
     desk.missingSymbols = missingSymbols(platform.functions);
+    for (const text::Text& obstacle : platform.obstacles.find()) desk.obstacles.push_back(obstacle.english());
     return desk;
 }
 

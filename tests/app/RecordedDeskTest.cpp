@@ -172,6 +172,16 @@ TEST(RecordedDesk, LacksTheFunctionsThatTheSystemLacks) {
     }
 }
 
+TEST(RecordedDesk, HasWhatWasInTheWayOfTheMonitors) {
+    Desk desk = test::usualDesk();
+    desk.obstacles = {"A cable is in the way.", "So is a \"100 %@\" driver."};
+    const Recorded recorded = record(desk);
+    EXPECT_EQ(recorded.desk.obstacles, desk.obstacles);
+    EXPECT_THAT(recorded.probed.output,
+                testing::EndsWith("\nA cable is in the way.\nSo is a \"100 %@\" driver.\n"));
+    expectToReplay(recorded);
+}
+
 TEST(RecordedDesk, IsEmptyWhereThereIsNothing) {
     const Recorded recorded = record(Desk());
     EXPECT_EQ(recorded.desk.displays, std::vector<DisplayPlan>());

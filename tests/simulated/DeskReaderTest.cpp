@@ -19,12 +19,14 @@ DisplayPlan onlyDisplay(const std::string& text) {
 TEST(DeskReader, ReadsTheDesk) {
     const Desk desk = readDeskText(
         R"({"title": "A", "description": "B", "seed": "0xFFFFFFFFFFFFFFFF", "displays": [],
-            "missingSymbols": ["IOAVServiceReadI2C", "CGSConfigureDisplayEnabled"]})");
+            "missingSymbols": ["IOAVServiceReadI2C", "CGSConfigureDisplayEnabled"],
+            "obstacles": ["No cable.", "%@"]})");
     EXPECT_EQ(desk.title, "A");
     EXPECT_EQ(desk.description, "B");
     EXPECT_EQ(desk.seed, 0xFFFFFFFFFFFFFFFFU);
     EXPECT_THAT(desk.displays, SizeIs(0));
     EXPECT_THAT(desk.missingSymbols, ElementsAre("IOAVServiceReadI2C", "CGSConfigureDisplayEnabled"));
+    EXPECT_THAT(desk.obstacles, ElementsAre("No cable.", "%@"));
 }
 
 TEST(DeskReader, GivesADeskThatSaysLittleItsDefaults) {
@@ -32,6 +34,7 @@ TEST(DeskReader, GivesADeskThatSaysLittleItsDefaults) {
     EXPECT_EQ(desk.description, "");
     EXPECT_EQ(desk.seed, 1U);
     EXPECT_THAT(desk.missingSymbols, SizeIs(0));
+    EXPECT_THAT(desk.obstacles, SizeIs(0));
 }
 
 TEST(DeskReader, ReadsADisplay) {

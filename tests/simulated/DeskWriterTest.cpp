@@ -93,6 +93,7 @@ TEST(DeskWriter, WritesEveryMemberThatADisplayHas) {
         framebufferEntry(panel),
     };
     desk.missingSymbols = {"IOAVServiceWriteI2C"};
+    desk.obstacles = {"No cable.", ""};
     const Desk read = readDeskText(DeskWriter::text(desk));
     EXPECT_EQ(read, desk) << read.title;
 }

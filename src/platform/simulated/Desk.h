@@ -100,6 +100,8 @@ struct Desk {
     std::vector<RegistryEntryPlan> registry;
     // Private functions that this system does not have.
     std::vector<std::string> missingSymbols;
+    // What the user is told to be in the way of the monitors.
+    std::vector<std::string> obstacles;
     bool operator==(const Desk&) const = default;
 };
 

@@ -123,6 +123,7 @@ const ObjectShape<Desk>& deskShape() {
                      desk.registry = *std::move(entries);
              }},
             {"missingSymbols", into(&Desk::missingSymbols, listOf(privateFunction))},
+            {"obstacles", into(&Desk::obstacles, listOf(text))},
         },
         [](const JSONPlace& place, Desk& desk) {
             if (!place.has("registry")) desk.registry = defaultRegistry(desk.displays);

@@ -95,6 +95,7 @@ std::string text(const Desk& desk) {
     result["registry"] = ordered_json::array();
     for (const RegistryEntryPlan& entry : desk.registry) result["registry"].push_back(object(entry, desk));
     if (!desk.missingSymbols.empty()) result["missingSymbols"] = desk.missingSymbols;
+    if (!desk.obstacles.empty()) result["obstacles"] = desk.obstacles;
     return JSONLayout::text(result);
 }
 

@@ -15,7 +15,8 @@ SimulatedPlatform::SimulatedPlatform(Desk desk, runtime::Scheduler& scheduler, r
       registry_(world_, services_),
       libraries_(world_, displays_, services_),
       functions_(libraries_),
-      workspace_(world_) {}
+      workspace_(world_),
+      obstacles_(world_.desk().obstacles) {}
 
 platform::Platform SimulatedPlatform::platform(platform::LogSink& sink, platform::Defaults& defaults) {
     return {scheduler_, mainLoop_,  displays_,  registry_,  functions_, baseTables_,
