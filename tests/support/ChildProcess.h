@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <signal.h>
 #include <string>
 #include <string_view>
@@ -45,6 +46,8 @@ class ChildProcess {
     explicit ChildProcess(Body body) {
         std::array<int, 2> pipe{};
         runtime::require(::pipe(pipe.data()) == 0, "no pipe can be made");
+        // What is still to be printed is the parent's to print.
+        std::fflush(nullptr);
         process_ = ::fork();
         runtime::require(process_ >= 0, "no process can be made");
         if (process_ == 0) {
