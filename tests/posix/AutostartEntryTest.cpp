@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "platform/EnglishLocalizer.h"
 #include "platform/posix/AutostartEntry.h"
 #include "platform/posix/PosixFileSystem.h"
-#include "platform/EnglishLocalizer.h"
 #include "support/FakeDisk.h"
 #include "support/TemporaryFolder.h"
 #include "support/WatchedFileSystem.h"

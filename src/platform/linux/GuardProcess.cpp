@@ -40,6 +40,7 @@ class Pipe {
 
 pid_t start(std::vector<std::string> command, int output) {
     std::vector<char*> arguments;
+    arguments.reserve(command.size() + 1);
     for (std::string& word : command) arguments.push_back(word.data());
     arguments.push_back(nullptr);
     posix_spawn_file_actions_t actions;

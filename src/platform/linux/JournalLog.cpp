@@ -11,6 +11,7 @@ using platform::LogLevel;
 
 void sendToJournal(const std::vector<std::string>& fields) {
     std::vector<iovec> pieces;
+    pieces.reserve(fields.size());
     for (const std::string& field : fields) {
         pieces.push_back({const_cast<char*>(field.data()), field.size()});
     }

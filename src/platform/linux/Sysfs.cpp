@@ -18,7 +18,7 @@ namespace vantrel::linux {
 namespace {
 
 // The largest attribute of interest is an EDID of 256 blocks.
-constexpr std::size_t largest = 256 * 128;
+constexpr std::size_t largest = 256UL * 128;
 
 class File {
   public:
